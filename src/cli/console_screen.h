@@ -1,0 +1,19 @@
+// The screen of the command-line program: message boxes become lines on standard error, and every
+// question is answered so that nothing is overwritten.
+#pragma once
+
+#include "platform/screen.h"
+
+namespace varlo {
+
+class ConsoleScreen : public Screen {
+ public:
+  // Prints "TITLE: text"; answers No where there is a choice.
+  Answer messageBox(const MessageBoxRequest& request) override;
+  int runTask(std::string_view title, std::string_view text, const std::function<int()>& task) override;
+  void showTaskCount(int /*count*/) override {}
+  void setWaitCursor(bool /*on*/) override {}
+  void postCommand(PostedCommand /*command*/) override {}
+};
+
+}  // namespace varlo

@@ -1,0 +1,29 @@
+// HeadlessProgram: the program as a command of varlo-cli runs it, without a window.
+#pragma once
+
+#include <string>
+
+#include "cli/console_screen.h"
+#include "core/program.h"
+#include "platform/machine.h"
+
+namespace varlo {
+
+class HeadlessProgram {
+ public:
+  // Starts the program on `files`, which is the machine's or wraps it.
+  HeadlessProgram(Machine& machine, Files& files);
+
+  // Loads the project; false when that can't be done, after a message.
+  [[nodiscard]] bool load(const std::string& project);
+
+  [[nodiscard]] Program& program() { return program_; }
+
+ private:
+  Files& files_;
+  ConsoleScreen screen_;
+  View view_;
+  Program program_;
+};
+
+}  // namespace varlo

@@ -1,0 +1,29 @@
+#include "cli/commands.h"
+#include "cli/guarded_files.h"
+#include "cli/headless_program.h"
+#include "persist/project_save.h"
+
+namespace varlo {
+namespace {
+
+int resaveInPlace(Machine& machine, const std::string& project) {
+  HeadlessProgram headless(machine, *machine.files);
+  if (!headless.load(project)) return kExitFailed;
+  return ProjectSave(headless.program()) == 1 ? kExitDone : kExitFailed;
+}
+
+}  // namespace
+
+int RunResave(Machine& machine, const std::string& project, const std::string& output) {
+  if (output.empty()) return resaveInPlace(machine, project);
+  const std::string target = machine.files->nameOf(output);
+  GuardedFiles files(*machine.files, target);
+  HeadlessProgram headless(machine, files);
+  if (!headless.load(project)) return kExitFailed;
+  StoreProject& loaded = headless.program().project;
+  loaded.projectFile.assign(std::string_view(target));
+  loaded.projectDir.release();  // without it the save leaves the templates alone
+  return ProjectSave(headless.program()) == 1 ? kExitDone : kExitFailed;
+}
+
+}  // namespace varlo

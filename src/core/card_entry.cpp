@@ -1,0 +1,22 @@
+#include "core/card_entry.h"
+
+#include "core/app_config.h"
+#include "core/record.h"
+
+namespace varlo {
+
+CardEntry* CardEntryInit(CardEntry* card) { return RecordInit(card); }
+
+void CardEntryListFree(CardEntry* head) { RecordListFree(head); }
+
+int CardCatalogueMark(AppConfig& config, const char* name, int flag) {
+  if (name == nullptr) return 0;
+  for (CardEntry* card = config.cardCatalogue; card != nullptr; card = card->next) {
+    if (card->name.view() != name) continue;
+    card->selected = flag;
+    return 1;
+  }
+  return 0;
+}
+
+}  // namespace varlo

@@ -1,0 +1,53 @@
+// Reading text files by lines, as every text format of the program does. The limits of the reader are
+// behaviour: see LineRead. It reads large blocks, with the results of one that reads 256 bytes at a
+// time and sets the file back behind each line.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string_view>
+
+#include "core/limits.h"
+#include "platform/files.h"
+
+namespace varlo {
+
+class LineReader {
+ public:
+  // Reads from the position of an open file, which the caller closes; kNoFile has no lines. `maximum`
+  // is the room for a line in bytes, of which whole blocks of 256 are used.
+  LineReader(Files& files, FileHandle file, std::size_t maximum = kLineBuffer);
+
+ private:
+  friend std::size_t LineRead(LineReader& reader, std::string_view& line);
+  friend std::size_t LineReadTrimmed(LineReader& reader, std::string_view& line);
+
+  bool fill();
+  std::size_t take(std::size_t size, std::string_view& line);
+  std::size_t takeBehindNul(std::string_view& line);
+
+  Files& files_;
+  FileHandle file_;
+  std::size_t cut_;
+  std::size_t capacity_;
+  std::unique_ptr<char[]> buffer_;
+  std::size_t begin_ = 0;
+  std::size_t end_ = 0;
+  bool atEnd_;
+  bool holdsNul_ = false;
+};
+
+// Gives the next line with its line end, and its length; 0 at the end of the file. The line stays valid
+// until the next call.
+// - A line is cut at the maximum in whole blocks of 256 bytes (20,000 makes 19,968); the rest comes as
+//   the next line, with no marker.
+// - A NUL at the start of a line is dropped, one for each block that the line takes, and does not count
+//   towards the cut. Other NULs stay: a reader that takes a line as a string sees it up to the first.
+// - A last line without a line end is delivered.
+std::size_t LineRead(LineReader& reader, std::string_view& line);
+
+// The same line as its reader sees it: up to its first NUL, then through TrimEnd. Gives 0 at the end of
+// the file, else the length before trimming.
+std::size_t LineReadTrimmed(LineReader& reader, std::string_view& line);
+
+}  // namespace varlo

@@ -1,0 +1,51 @@
+// The texts of message boxes and their titles. They are behaviour to the letter, odd spelling and
+// double blanks included.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace varlo {
+
+inline constexpr std::string_view kProductName = "Varlo PRO";
+
+namespace message {
+
+// Titles.
+inline constexpr std::string_view kConfirmation = "Confirmation";
+inline constexpr std::string_view kSavePromptTitle = "Varlo PRO - Save Store Confirmation";
+inline constexpr std::string_view kUpgradeTitle = "Project Upgrade";
+
+// Questions.
+inline constexpr std::string_view kSavePrompt = "The current project has changed.  Do you wish to save your changes?";
+inline constexpr std::string_view kDeleteCategory =
+    "You are about to delete a Category and all nodes below it. Do you wish to proceed?";
+
+// The dialogs around long tasks.
+inline constexpr std::string_view kLoadingProject = "Loading store project. Please wait........";
+inline constexpr std::string_view kSavingProject = "Saving store project. Please wait........";
+
+// The project file.
+inline constexpr std::string_view kProjectWriteError = "S101: File Write Error";
+inline constexpr std::string_view kProjectReadError = "S103: Unable to read project file '%s'";
+inline constexpr std::string_view kTemplateWriteError = "ERROR S104: Saving template file";
+inline constexpr std::string_view kPageWriteError = "ERROR R106: Unable to open HTML output file";
+
+// Projects of older versions.
+inline constexpr std::string_view kUpgradeShelfOrderConfirm =
+    "Your project was saved with an older version of Varlo PRO.\r\n\r\nFor compatibility, Varlo needs to "
+    "replace your Shelf, Order form, and Confirmation page templates.  If you have made changes to these "
+    "templates, a copy of the changed versions will be saved as shelf.bak, order.bak and confirm.bak in your "
+    "project's template directory.";
+inline constexpr std::string_view kUpgradeOrderConfirm =
+    "Your project was saved with an older version of Varlo PRO.\r\n\r\nFor compatibility, Varlo needs to "
+    "replace your Order form, and Confirmation page templates.  If you have made changes to these templates, a "
+    "copy of the changed versions will be saved as order.bak and confirm.bak in your project's template "
+    "directory.";
+
+}  // namespace message
+
+// The message with its first "%s" replaced by `value`.
+[[nodiscard]] std::string FillMessage(std::string_view message, std::string_view value);
+
+}  // namespace varlo

@@ -1,0 +1,23 @@
+// Numbers and dates as text.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/clock.h"
+
+namespace varlo {
+
+// Decimal text with a minus sign when negative.
+[[nodiscard]] std::string IntToText(std::int32_t number);
+
+// The leading decimal number of the text, behind white space and with an optional sign; 0 when there
+// is none. Wraps at 32 bits.
+[[nodiscard]] std::int32_t LeadingInt(std::string_view text);
+
+// Local time as "day/month/year hour:minute:second", two digits each; with `dayLast` the month comes
+// first. The empty text for a time that can't be told.
+[[nodiscard]] std::string DateToText(Clock& clock, std::int64_t time, bool dayLast);
+
+}  // namespace varlo

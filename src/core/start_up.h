@@ -1,0 +1,53 @@
+// The order in which the program comes up and goes down. The readers, the window and the browser
+// detection are handed in, so the order stands in one place.
+#pragma once
+
+#include <functional>
+
+namespace varlo {
+
+struct Program;
+
+// What start-up runs, each whether or not the earlier ones found their files. An empty function is
+// skipped.
+struct StartUpSteps {
+  std::function<void(Program&)> readRegionCatalogue;   // domain.dat
+  std::function<void(Program&)> readSchemeCatalogue;   // scheme.dat, then scheme.ini
+  std::function<void(Program&)> readConfig;            // config.ini, then server.ini
+  std::function<void(Program&)> readCardCatalogue;     // cc.dat
+  std::function<void(Program&)> readTemplateVersions;  // version.ini
+  std::function<void(struct SchemeRecord&)> setSchemeDefaults;
+  std::function<void(Program&)> detectBrowsers;
+};
+
+// Brings the state up to the point where the main window opens.
+void StartUp(Program& program, const StartUpSteps& steps);
+
+// What the main window does while it comes up: loads the project that the configuration names, with
+// `loadProject`, and decides what comes next: Upgrade without an order server, else New Store without a
+// project. Without a config.ini on disk the first-run counter goes up.
+void StartUpInWindow(Program& program, const std::function<int(Program&)>& loadProject);
+
+// What goes on after the upgrade program was started: the demo page on a first run, through
+// `openInBrowser`, then New Store without a project.
+void ContinueAfterUpgrade(Program& program, const std::function<void(Program&, const char*)>& openInBrowser);
+
+// What shut-down runs.
+struct ShutDownSteps {
+  std::function<int(Program&)> saveWithBackup;  // rolling backup, then save
+  std::function<void(Program&)> stopBuild;
+  std::function<void(Program&)> saveConfig;  // config.ini and scheme.ini
+};
+
+// Asks to save a changed project, and saves it on Yes. Gives the result of the save, -1 when nothing was
+// to be saved or the answer was not Yes.
+int AskToSave(Program& program, const std::function<int(Program&)>& saveWithBackup);
+
+// Quit: asks, then clears `dirty`.
+void ShutDown(Program& program, const ShutDownSteps& steps);
+
+// The end of the main window: stops a build, writes the configuration, asks again if anything changed
+// since, and releases what belongs to the process.
+void ShutDownWindow(Program& program, const ShutDownSteps& steps);
+
+}  // namespace varlo

@@ -1,0 +1,31 @@
+#include "core/user_variable.h"
+
+#include "core/record.h"
+#include "core/store_project.h"
+
+namespace varlo {
+
+UserVariable* UserVariableInit(UserVariable* variable) { return RecordInit(variable); }
+
+UserVariable* UserVariableCopy(UserVariable* destination, const UserVariable& source) {
+  if (destination == nullptr) destination = UserVariableInit(nullptr);
+  destination->name = source.name;
+  destination->value = source.value;
+  destination->deleteMark = source.deleteMark;
+  return destination;
+}
+
+void UserVariableListFree(StoreProject& project, UserVariable* head) {
+  RecordListFree(head, [&](UserVariable& variable) {
+    if (project.currentVariable == &variable) project.currentVariable = nullptr;
+    if (project.variables == &variable) project.variables = nullptr;
+    if (project.variablesTail == &variable) project.variablesTail = nullptr;
+  });
+}
+
+void UserVariableAppend(StoreProject& project, UserVariable* variable) {
+  (project.variablesTail == nullptr ? project.variables : project.variablesTail->next) = variable;
+  project.variablesTail = variable;
+}
+
+}  // namespace varlo

@@ -1,0 +1,43 @@
+// What the model tells the window. The shell implements it; this base, which shows nothing, serves
+// command-line use and the engine's own tests.
+#pragma once
+
+#include <string_view>
+
+namespace varlo {
+
+struct StoreNode;
+
+struct View {
+  virtual ~View() = default;
+
+  // Fills the form of the open tab from the current node.
+  virtual void loadForm() {}
+  // Shows the children of `holder` in the item list; none for null or a product.
+  virtual void loadItemList(StoreNode* /*holder*/) {}
+  // Sets the enabled state of every menu entry, button and control.
+  virtual void refreshCommandStates() {}
+
+  // Empties the tree and the item list.
+  virtual void clearTree() {}
+  // Inserts the whole tree from the root.
+  virtual void fillTree() {}
+  // Inserts the item of `node` behind that of `behind`, or at the end of its parent's for null.
+  virtual void insertTreeItem(StoreNode& /*node*/, StoreNode* /*behind*/) {}
+  // Inserts the item of `node`, with its branch, anew at the place where the node is linked now.
+  virtual void moveTreeItem(StoreNode& /*node*/) {}
+  virtual void removeTreeItem(StoreNode& /*node*/) {}
+  // Refreshes icon and expand flag of an item.
+  virtual void refreshTreeItem(StoreNode& /*node*/) {}
+  virtual void selectInTree(StoreNode& /*node*/) {}
+
+  // Fill the lists of the tabs that show them, if they are open.
+  virtual void loadVariableList() {}
+  virtual void loadFreightList() {}
+  virtual void loadCardList() {}
+  virtual void loadSchemeLists() {}
+
+  virtual void setWindowTitle(std::string_view /*title*/) {}
+};
+
+}  // namespace varlo

@@ -1,0 +1,16 @@
+#include "persist/project_paths.h"
+
+#include "core/store_project.h"
+
+namespace varlo {
+
+std::string ProjectTemplatePath(const StoreProject& project, std::string_view fileName) {
+  return std::string(project.projectDir.view()).append("\\template\\").append(fileName);
+}
+
+void ProjectDirFromFile(StoreProject& project) {
+  const std::string_view file = project.projectFile.view();
+  project.projectDir.assign(file.substr(0, file.rfind('\\')));
+}
+
+}  // namespace varlo

@@ -1,0 +1,21 @@
+// Where the files of a project lie.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace varlo {
+
+struct StoreProject;
+
+inline constexpr std::string_view kOrderTemplateName = "order.htm";
+inline constexpr std::string_view kConfirmTemplateName = "confirm.htm";
+
+// Path of a file in the template folder of the project.
+[[nodiscard]] std::string ProjectTemplatePath(const StoreProject& project, std::string_view fileName);
+
+// Makes projectDir follow projectFile: the path up to its last back slash, or, without one, the whole
+// name.
+void ProjectDirFromFile(StoreProject& project);
+
+}  // namespace varlo

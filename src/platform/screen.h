@@ -1,0 +1,41 @@
+// What the program asks of the person at the screen: message boxes, the small dialog around a long
+// task, the wait cursor, and commands to run after the current one.
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+namespace varlo {
+
+enum class Buttons { Ok, YesNo, YesNoCancel };
+enum class Icon { None, Question, Exclamation, Stop };
+enum class Answer { Ok, Yes, No, Cancel };
+
+struct MessageBoxRequest {
+  std::string_view text;
+  std::string_view title;
+  Buttons buttons = Buttons::Ok;
+  Icon icon = Icon::None;
+};
+
+// Commands that are queued behind the running one instead of being called.
+enum class PostedCommand {
+  Upgrade,           // start the upgrade program
+  NewStore,          // start the store wizard
+  NewTopCategory,    // append a category to the top-level list
+  ResizeMainWindow,  // lay the main window out again
+};
+
+struct Screen {
+  virtual ~Screen() = default;
+  // Shows a box and waits for its answer.
+  virtual Answer messageBox(const MessageBoxRequest& request) = 0;
+  // Runs `task` inside a small dialog that is on the screen before the task starts; gives its result.
+  virtual int runTask(std::string_view title, std::string_view text, const std::function<int()>& task) = 0;
+  // Shows a running count in the dialog of the current task.
+  virtual void showTaskCount(int count) = 0;
+  virtual void setWaitCursor(bool on) = 0;
+  virtual void postCommand(PostedCommand command) = 0;
+};
+
+}  // namespace varlo

@@ -1,0 +1,74 @@
+#include "posix/folder_index.h"
+
+#include <algorithm>
+
+#include <dirent.h>
+
+#include "core/charset.h"
+
+namespace varlo {
+namespace {
+
+std::string folded(std::string_view bytes) {
+  std::string key(bytes);
+  std::transform(key.begin(), key.end(), key.begin(), LowerByte);
+  return key;
+}
+
+bool same(const timespec& left, const timespec& right) {
+  return left.tv_sec == right.tv_sec && left.tv_nsec == right.tv_nsec;
+}
+
+}  // namespace
+
+bool FolderIndex::changeTime(const std::string& folder, timespec& time) {
+  struct stat status {};
+  if (::stat(folder.c_str(), &status) != 0) return false;
+  time = status.st_mtim;
+  return true;
+}
+
+void FolderIndex::readNames(const std::string& folder, Folder& entry) {
+  entry.names.clear();
+  DIR* directory = ::opendir(folder.c_str());
+  if (directory == nullptr) return;
+  while (const dirent* found = ::readdir(directory)) {
+    entry.names.try_emplace(folded(BytesFromUtf8(found->d_name)), found->d_name);
+  }
+  ::closedir(directory);
+}
+
+std::string FolderIndex::find(const std::string& folder, std::string_view name) {
+  timespec now{};
+  if (!changeTime(folder, now)) return {};
+  const auto [at, isNew] = folders_.try_emplace(folder);
+  Folder& entry = at->second;
+  if (isNew || !same(entry.changed, now)) {
+    entry.changed = now;
+    readNames(folder, entry);
+  }
+  const auto found = entry.names.find(folded(name));
+  return found == entry.names.end() ? std::string() : found->second;
+}
+
+// The index of a folder that is known, and brought up to its present change time: the change was ours.
+FolderIndex::Folder* FolderIndex::known(const std::string& folder) {
+  const auto at = folders_.find(folder);
+  if (at == folders_.end()) return nullptr;
+  changeTime(folder, at->second.changed);
+  return &at->second;
+}
+
+void FolderIndex::added(const std::string& folder, std::string_view hostName) {
+  Folder* entry = known(folder);
+  if (entry != nullptr) entry->names.try_emplace(folded(BytesFromUtf8(hostName)), hostName);
+}
+
+void FolderIndex::removed(const std::string& folder, std::string_view hostName) {
+  Folder* entry = known(folder);
+  if (entry == nullptr) return;
+  const auto at = entry->names.find(folded(BytesFromUtf8(hostName)));
+  if (at != entry->names.end() && at->second == hostName) entry->names.erase(at);
+}
+
+}  // namespace varlo

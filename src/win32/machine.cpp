@@ -1,0 +1,21 @@
+#include "platform/machine.h"
+
+#include <windows.h>
+
+#include "win32/win32_clipboard.h"
+#include "win32/win32_clock.h"
+#include "win32/win32_files.h"
+
+namespace varlo {
+
+// The working folder is the process's own, since every relative name is taken against it.
+Machine MakeMachine(const std::string& folder) {
+  if (!folder.empty()) ::SetCurrentDirectoryA(folder.c_str());
+  return {.files = std::make_unique<Win32Files>(),
+          .clock = std::make_unique<Win32Clock>(),
+          .clipboard = std::make_unique<Win32Clipboard>()};
+}
+
+std::string TerminalText(std::string_view text) { return std::string(text); }
+
+}  // namespace varlo

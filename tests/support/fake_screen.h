@@ -1,0 +1,45 @@
+// A screen that records what it is shown and answers as told.
+#pragma once
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "platform/screen.h"
+
+namespace varlo::test {
+
+struct ShownBox {
+  std::string text;
+  std::string title;
+  Buttons buttons = Buttons::Ok;
+  Icon icon = Icon::None;
+  bool operator==(const ShownBox&) const = default;
+};
+
+class FakeScreen : public Screen {
+ public:
+  std::vector<ShownBox> boxes;        // in the order in which they were shown
+  std::deque<Answer> answers;         // for the boxes to come; without one it is Ok or No
+  std::vector<std::string> tasks;     // texts of the task dialogs
+  std::vector<int> taskCounts;        // counts shown in them
+  std::vector<bool> waitCursor;       // changes of the wait cursor
+  std::vector<PostedCommand> posted;  // commands that were queued
+
+  Answer messageBox(const MessageBoxRequest& request) override {
+    boxes.push_back({std::string(request.text), std::string(request.title), request.buttons, request.icon});
+    if (answers.empty()) return request.buttons == Buttons::Ok ? Answer::Ok : Answer::No;
+    const Answer answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+  int runTask(std::string_view title, std::string_view text, const std::function<int()>& task) override {
+    tasks.push_back(std::string(title).append(": ").append(text));
+    return task();
+  }
+  void showTaskCount(int count) override { taskCounts.push_back(count); }
+  void setWaitCursor(bool on) override { waitCursor.push_back(on); }
+  void postCommand(PostedCommand command) override { posted.push_back(command); }
+};
+
+}  // namespace varlo::test

@@ -1,0 +1,40 @@
+// A view that records what the model told it, one line a call.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/store_node.h"
+#include "core/view.h"
+
+namespace varlo::test {
+
+class RecordingView : public View {
+ public:
+  std::vector<std::string> calls;
+
+  void loadForm() override { calls.emplace_back("loadForm"); }
+  void loadItemList(StoreNode* holder) override { calls.push_back("loadItemList" + named(holder)); }
+  void refreshCommandStates() override { calls.emplace_back("refreshCommandStates"); }
+  void clearTree() override { calls.emplace_back("clearTree"); }
+  void fillTree() override { calls.emplace_back("fillTree"); }
+  void insertTreeItem(StoreNode& node, StoreNode* behind) override {
+    calls.push_back("insertTreeItem" + named(&node) + " behind" + named(behind));
+  }
+  void moveTreeItem(StoreNode& node) override { calls.push_back("moveTreeItem" + named(&node)); }
+  void removeTreeItem(StoreNode& node) override { calls.push_back("removeTreeItem" + named(&node)); }
+  void refreshTreeItem(StoreNode& node) override { calls.push_back("refreshTreeItem" + named(&node)); }
+  void selectInTree(StoreNode& node) override { calls.push_back("selectInTree" + named(&node)); }
+  void loadVariableList() override { calls.emplace_back("loadVariableList"); }
+  void loadFreightList() override { calls.emplace_back("loadFreightList"); }
+  void loadCardList() override { calls.emplace_back("loadCardList"); }
+  void loadSchemeLists() override { calls.emplace_back("loadSchemeLists"); }
+  void setWindowTitle(std::string_view title) override { calls.push_back("setWindowTitle " + std::string(title)); }
+
+ private:
+  static std::string named(const StoreNode* node) {
+    return node == nullptr ? " -" : " " + std::string(node->title.orEmpty());
+  }
+};
+
+}  // namespace varlo::test
