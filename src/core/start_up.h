@@ -7,17 +7,18 @@
 namespace varlo {
 
 struct Program;
+struct SchemeRecord;
 
 // What start-up runs, each whether or not the earlier ones found their files. An empty function is
 // skipped.
 struct StartUpSteps {
-  std::function<void(Program&)> readRegionCatalogue;   // domain.dat
-  std::function<void(Program&)> readSchemeCatalogue;   // scheme.dat, then scheme.ini
-  std::function<void(Program&)> readConfig;            // config.ini, then server.ini
-  std::function<void(Program&)> readCardCatalogue;     // cc.dat
-  std::function<void(Program&)> readTemplateVersions;  // version.ini
-  std::function<void(struct SchemeRecord&)> setSchemeDefaults;
-  std::function<void(Program&)> detectBrowsers;
+  std::function<void(Program&)> readRegionCatalogue{};   // domain.dat
+  std::function<void(Program&)> readSchemeCatalogue{};   // scheme.dat, then scheme.ini
+  std::function<void(Program&)> readConfig{};            // config.ini, then server.ini
+  std::function<void(Program&)> readCardCatalogue{};     // cc.dat
+  std::function<void(Program&)> readTemplateVersions{};  // version.ini
+  std::function<void(SchemeRecord&)> setSchemeDefaults{};
+  std::function<void(Program&)> detectBrowsers{};
 };
 
 // Brings the state up to the point where the main window opens.
@@ -34,9 +35,9 @@ void ContinueAfterUpgrade(Program& program, const std::function<void(Program&, c
 
 // What shut-down runs.
 struct ShutDownSteps {
-  std::function<int(Program&)> saveWithBackup;  // rolling backup, then save
-  std::function<void(Program&)> stopBuild;
-  std::function<void(Program&)> saveConfig;  // config.ini and scheme.ini
+  std::function<int(Program&)> saveWithBackup{};  // rolling backup, then save
+  std::function<void(Program&)> stopBuild{};
+  std::function<void(Program&)> saveConfig{};  // config.ini and scheme.ini
 };
 
 // Asks to save a changed project, and saves it on Yes. Gives the result of the save, -1 when nothing was
