@@ -13,6 +13,11 @@ class ConsoleScreen : public Screen {
   int runTask(std::string_view title, std::string_view text, const std::function<int()>& task) override;
   void showTaskCount(int /*count*/) override {}
   void setWaitCursor(bool /*on*/) override {}
+  // There is nobody to choose: as if everything were cancelled.
+  std::optional<std::string> chooseFile(const FileChooserRequest& /*request*/) override { return std::nullopt; }
+  std::optional<std::uint32_t> chooseColour(std::uint32_t /*start*/, CustomColours& /*custom*/) override {
+    return std::nullopt;
+  }
   void postCommand(PostedCommand /*command*/) override {}
 };
 

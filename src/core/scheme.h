@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "core/text.h"
+#include "platform/screen.h"
 
 namespace varlo {
 
@@ -16,7 +17,6 @@ struct Program;
 struct StringItem;
 
 inline constexpr std::size_t kSchemeSlots = 31;
-inline constexpr std::size_t kCustomColourBytes = 64;
 
 // Who made a record; the numbers stand in the catalogue files.
 inline constexpr std::int32_t kSchemeShipped = 0;
@@ -24,10 +24,10 @@ inline constexpr std::int32_t kSchemeOwn = 1;  // the user's; the only kind writ
 
 struct SchemeRecord {
   SchemeRecord* next = nullptr;
-  SchemeRecord* prev = nullptr;                                  // in the first scheme of a style, the style
-  SchemeRecord* schemes = nullptr;                               // first scheme of a style; null in a scheme
-  StringItem* files = nullptr;                                   // to copy into the web directory
-  std::array<std::uint8_t, kCustomColourBytes> customColours{};  // sixteen colours of four bytes
+  SchemeRecord* prev = nullptr;     // in the first scheme of a style, the style
+  SchemeRecord* schemes = nullptr;  // first scheme of a style; null in a scheme
+  StringItem* files = nullptr;      // to copy into the web directory
+  CustomColours customColours{};
   std::int32_t listItem = 0;
   std::int32_t type = kSchemeShipped;
   Text name;

@@ -37,6 +37,10 @@ struct View {
   virtual void loadCardList() {}
   virtual void loadSchemeLists() {}
 
+  // Shows the context help of a topic.
+  virtual void showHelp(std::string_view /*topic*/) {}
+  // Stores what the open form holds, as each edit in it does.
+  virtual void storeForm() {}
   virtual void setWindowTitle(std::string_view /*title*/) {}
 };
 

@@ -1,8 +1,12 @@
-// What the program asks of the person at the screen: message boxes, the small dialog around a long
-// task, the wait cursor, and commands to run after the current one.
+// What the program asks of the person at the screen: message boxes, choosers, the small dialog
+// around a long task, the wait cursor, and commands to run after the current one.
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <functional>
+#include <optional>
+#include <string>
 #include <string_view>
 
 namespace varlo {
@@ -26,6 +30,19 @@ enum class PostedCommand {
   ResizeMainWindow,  // lay the main window out again
 };
 
+// A chooser for one file. The filter is written with "$" for the separators, as in
+// "Store Project (*.stp)$*.stp$$".
+struct FileChooserRequest {
+  std::string folder;  // shown first
+  std::string_view title;
+  std::string_view filter;
+  std::string_view extension;  // appended to a name without one
+  bool mustExist = true;
+};
+
+// The sixteen custom colours of a colour chooser, four bytes each.
+using CustomColours = std::array<std::uint8_t, 64>;
+
 struct Screen {
   virtual ~Screen() = default;
   // Shows a box and waits for its answer.
@@ -35,6 +52,11 @@ struct Screen {
   // Shows a running count in the dialog of the current task.
   virtual void showTaskCount(int count) = 0;
   virtual void setWaitCursor(bool on) = 0;
+  // The full path of the chosen file; none when the user cancelled.
+  virtual std::optional<std::string> chooseFile(const FileChooserRequest& request) = 0;
+  // The chosen colour (red in the lowest byte, then green, blue), starting from `start`; none when the
+  // user cancelled. The chooser shows the custom colours and changes them in place.
+  virtual std::optional<std::uint32_t> chooseColour(std::uint32_t start, CustomColours& custom) = 0;
   virtual void postCommand(PostedCommand command) = 0;
 };
 

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <deque>
+#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,11 +21,16 @@ struct ShownBox {
 
 class FakeScreen : public Screen {
  public:
-  std::vector<ShownBox> boxes;        // in the order in which they were shown
-  std::deque<Answer> answers;         // for the boxes to come; without one it is Ok or No
-  std::vector<std::string> tasks;     // texts of the task dialogs
-  std::vector<int> taskCounts;        // counts shown in them
-  std::vector<bool> waitCursor;       // changes of the wait cursor
+  std::vector<ShownBox> boxes;     // in the order in which they were shown
+  std::deque<Answer> answers;      // for the boxes to come; without one it is Ok or No
+  std::vector<std::string> tasks;  // texts of the task dialogs
+  std::vector<int> taskCounts;     // counts shown in them
+  std::vector<bool> waitCursor;    // changes of the wait cursor
+  std::vector<FileChooserRequest> fileRequests;
+  std::deque<std::string> files;  // to be chosen; without one the chooser is cancelled
+  std::vector<std::uint32_t> colourStarts;
+  std::deque<std::uint32_t> colours;  // to be chosen; without one the chooser is cancelled
+  std::function<void(CustomColours&)> onColours;
   std::vector<PostedCommand> posted;  // commands that were queued
 
   Answer messageBox(const MessageBoxRequest& request) override {
@@ -39,7 +46,25 @@ class FakeScreen : public Screen {
   }
   void showTaskCount(int count) override { taskCounts.push_back(count); }
   void setWaitCursor(bool on) override { waitCursor.push_back(on); }
+  std::optional<std::string> chooseFile(const FileChooserRequest& request) override {
+    fileRequests.push_back(request);
+    return takeFirst(files);
+  }
+  std::optional<std::uint32_t> chooseColour(std::uint32_t start, CustomColours& custom) override {
+    colourStarts.push_back(start);
+    if (onColours) onColours(custom);
+    return takeFirst(colours);
+  }
   void postCommand(PostedCommand command) override { posted.push_back(command); }
+
+ private:
+  template <typename Value>
+  static std::optional<Value> takeFirst(std::deque<Value>& values) {
+    if (values.empty()) return std::nullopt;
+    Value first = values.front();
+    values.pop_front();
+    return first;
+  }
 };
 
 }  // namespace varlo::test

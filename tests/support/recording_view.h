@@ -29,6 +29,8 @@ class RecordingView : public View {
   void loadFreightList() override { calls.emplace_back("loadFreightList"); }
   void loadCardList() override { calls.emplace_back("loadCardList"); }
   void loadSchemeLists() override { calls.emplace_back("loadSchemeLists"); }
+  void showHelp(std::string_view topic) override { calls.push_back("showHelp " + std::string(topic)); }
+  void storeForm() override { calls.emplace_back("storeForm"); }
   void setWindowTitle(std::string_view title) override { calls.push_back("setWindowTitle " + std::string(title)); }
 
  private:

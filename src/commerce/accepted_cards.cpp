@@ -1,0 +1,49 @@
+#include "commerce/accepted_cards.h"
+
+#include "core/program.h"
+#include "core/record.h"
+
+namespace varlo {
+namespace {
+
+void append(StoreProject& project, const Text& name, int custom) {
+  CardEntry* card = CardEntryInit(nullptr);
+  card->name = name;
+  card->custom = custom;
+  CardEntry* last = RecordLast(project.acceptedCards);
+  RecordAppend(project.acceptedCards, last, card);
+}
+
+void unlink(StoreProject& project, const CardEntry& card) {
+  (card.prev == nullptr ? project.acceptedCards : card.prev->next) = card.next;
+  if (card.next != nullptr) card.next->prev = card.prev;
+}
+
+}  // namespace
+
+int CardAccept(Program& program, CardEntry* catalogueCard) {
+  if (catalogueCard == nullptr || catalogueCard->selected != 0) return 0;
+  append(program.project, catalogueCard->name, 0);
+  catalogueCard->selected = 1;
+  SetDirty(program, 1);
+  return 1;
+}
+
+void CardAcceptTyped(Program& program, const char* name) {
+  append(program.project, Text(name), 1);
+  SetDirty(program, 1);
+}
+
+int CardRemove(Program& program) {
+  StoreProject& project = program.project;
+  CardEntry* card = project.currentCard;
+  if (card == nullptr) return 0;
+  if (card->custom == 0) CardCatalogueMark(program.config, card->name.get(), 0);
+  project.currentCard = card->next != nullptr ? card->next : card->prev;
+  unlink(project, *card);
+  delete card;
+  SetDirty(program, 1);
+  return 1;
+}
+
+}  // namespace varlo

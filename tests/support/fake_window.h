@@ -1,0 +1,101 @@
+// A dialog's window for tests. It echoes a change notice whenever a text is set, as real controls do,
+// and lets a test act as the user.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/dialog.h"
+
+namespace varlo::test {
+
+class FakeWindow : public Dialog {
+ public:
+  explicit FakeWindow(DialogLogic& logic) : logic_(logic) {}
+
+  // The window opens, as the system does it: the logic fills it.
+  void open() { logic_.opened(*this); }
+
+  // What a user does.
+  void type(ControlId control, std::string_view text) { setText(control, text); }
+  void enter(ControlId control) { focus(control); }
+  void press(ControlId button) {
+    if (isEnabled(button)) tell(button, Notice::Clicked);
+  }
+  void pickRow(ControlId list, int row) {
+    rows_[list].selected = row;
+    tell(list, Notice::RowSelected);
+  }
+  void close() { logic_.closeRequested(*this); }
+
+  // What a user sees.
+  [[nodiscard]] bool isEnabled(ControlId control) const {
+    const auto found = enabled_.find(control);
+    return found == enabled_.end() || found->second;
+  }
+  [[nodiscard]] bool isOpen() const { return open_; }
+  [[nodiscard]] int result() const { return result_; }
+  [[nodiscard]] ControlId focused() const { return focused_; }
+  [[nodiscard]] int limitOf(ControlId control) const { return limits_.at(control); }
+  [[nodiscard]] const std::vector<std::string>& comboRows(ControlId control) { return combos_[control]; }
+  [[nodiscard]] const std::vector<ListColumn>& columns(ControlId list) { return columns_[list]; }
+  [[nodiscard]] int rowCount(ControlId list) { return rows_[list].count; }
+  [[nodiscard]] std::string cell(ControlId list, int row, int column) { return logic_.cellText(list, row, column); }
+  [[nodiscard]] int repaints(ControlId control) { return repaints_[control]; }
+  [[nodiscard]] bool caretAtEnd(ControlId control) { return caretAtEnd_[control]; }
+
+  std::string text(ControlId control) override { return texts_[control]; }
+  void setText(ControlId control, std::string_view text) override {
+    texts_[control] = text;
+    caretAtEnd_[control] = false;
+    tell(control, Notice::Changed);
+  }
+  void limitText(ControlId control, int size) override { limits_[control] = size; }
+  void enable(ControlId control, bool on) override { enabled_[control] = on; }
+  bool isChecked(ControlId control) override { return checked_[control]; }
+  void check(ControlId control, bool on) override { checked_[control] = on; }
+  void focus(ControlId control) override {
+    if (focused_ == control) return;
+    const ControlId before = focused_;
+    focused_ = control;
+    if (before != 0) tell(before, Notice::LostFocus);
+    tell(control, Notice::GotFocus);
+  }
+  void caretToEnd(ControlId control) override { caretAtEnd_[control] = true; }
+  void repaint(ControlId control) override { ++repaints_[control]; }
+  void addComboRow(ControlId control, std::string_view text) override { combos_[control].emplace_back(text); }
+  void setColumns(ControlId list, std::span<const ListColumn> columns) override {
+    columns_[list].assign(columns.begin(), columns.end());
+  }
+  void setRowCount(ControlId list, int count) override { rows_[list] = {count, kNoRow}; }
+  int selectedRow(ControlId list) override { return rows_[list].selected; }
+  void selectRow(ControlId list, int row) override { pickRow(list, row); }
+  void end(int result) override {
+    open_ = false;
+    result_ = result;
+  }
+
+ private:
+  struct Rows {
+    int count = 0;
+    int selected = kNoRow;
+  };
+  void tell(ControlId control, Notice notice) { logic_.notified(*this, {control, notice}); }
+
+  DialogLogic& logic_;
+  std::map<ControlId, std::string> texts_;
+  std::map<ControlId, bool> enabled_;
+  std::map<ControlId, bool> checked_;
+  std::map<ControlId, bool> caretAtEnd_;
+  std::map<ControlId, int> limits_;
+  std::map<ControlId, int> repaints_;
+  std::map<ControlId, std::vector<std::string>> combos_;
+  std::map<ControlId, std::vector<ListColumn>> columns_;
+  std::map<ControlId, Rows> rows_;
+  ControlId focused_ = 0;
+  bool open_ = true;
+  int result_ = 0;
+};
+
+}  // namespace varlo::test
