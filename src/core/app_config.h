@@ -37,6 +37,10 @@ struct AppConfig {
   SchemeRecord* schemeStyles = nullptr;
   SchemeRecord* currentStyle = nullptr;
   SchemeRecord* currentScheme = nullptr;
+  // Where the catalogue files go on: behind this record, which is a style or a scheme.
+  SchemeRecord* insertAfter = nullptr;
+  bool insertAfterIsScheme = false;
+
   CardEntry* cardCatalogue = nullptr;
   CardEntry* cardCatalogueTail = nullptr;
   FreightRecord* regionCatalogue = nullptr;

@@ -8,6 +8,7 @@
 namespace varlo {
 
 inline constexpr std::string_view kProductName = "Varlo PRO";
+inline constexpr std::string_view kProductVersion = "1.07";
 
 namespace message {
 
@@ -30,6 +31,33 @@ inline constexpr std::string_view kProjectWriteError = "S101: File Write Error";
 inline constexpr std::string_view kProjectReadError = "S103: Unable to read project file '%s'";
 inline constexpr std::string_view kTemplateWriteError = "ERROR S104: Saving template file";
 inline constexpr std::string_view kPageWriteError = "ERROR R106: Unable to open HTML output file";
+
+inline constexpr std::string_view kProjectOpenError = "ERROR S105: Unable to open project file";
+inline constexpr std::string_view kOtherProjectReadError = "S105: Unable to read project file '%s'";
+
+// Making and copying projects.
+inline constexpr std::string_view kInvalidProjectName =
+    "Invalid Project Name.  The name must not include forward/back slash characters or commas.";
+inline constexpr std::string_view kOrderCopyError = "ERROR M101: Copying 'template\\order.dat' template";
+inline constexpr std::string_view kConfirmCopyError = "ERROR M101: Copying 'template\\confirm.dat' template";
+inline constexpr std::string_view kFolderError = "Unable to create a new Project Directory '%s'.";
+inline constexpr std::string_view kFolderExists =
+    "A Project Directory with the same name already exists.  Would you like to overwrite it?";
+inline constexpr std::string_view kOpenTitle = "Open Project";
+inline constexpr std::string_view kSaveAsTitle = "Save Project As";
+inline constexpr std::string_view kImportTitle = "Import from Project";
+inline constexpr std::string_view kProjectFilter = "Store Project (*.stp)$*.stp$$";
+inline constexpr std::string_view kRestore =
+    "You are about to revert to a previously saved version of the store project.  All current changes will be "
+    "lost. Do you wish to proceed? ";
+
+// The files of the installation.
+inline constexpr std::string_view kRegionsError = "ERROR W106: Unable to Load Domains List 'domain.dat'";
+inline constexpr std::string_view kCardsError = "ERROR W107: Unable to open credit card list file 'cc.dat'";
+// Deliberate: the name in the message is not that of the file.
+inline constexpr std::string_view kConfigError = "ERROR W114: Unable to open file 'drelk.ini'";
+inline constexpr std::string_view kCatalogueError = "ERROR W124: Unable to open file 'scheme.ini'";
+inline constexpr std::string_view kNoScheme = "No scheme defined for current store.";
 
 // Projects of older versions.
 inline constexpr std::string_view kUpgradeShelfOrderConfirm =

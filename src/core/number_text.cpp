@@ -21,6 +21,16 @@ std::int32_t LeadingInt(std::string_view text) {
   return static_cast<std::int32_t>(negative ? 0U - value : value);
 }
 
+std::uint8_t HexPairValue(std::string_view pair) {
+  unsigned value = 0;
+  for (std::size_t i = 0; i < 2; ++i) {
+    const char c = i < pair.size() ? pair[i] : '0';
+    const char upper = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+    value = value * 16 + static_cast<unsigned>(IsDigit(upper) ? upper - '0' : upper - 55);
+  }
+  return static_cast<std::uint8_t>(value);
+}
+
 std::string DateToText(Clock& clock, std::int64_t time, bool dayLast) {
   CalendarTime local;
   if (!clock.localTime(time, local)) return {};

@@ -16,6 +16,10 @@ namespace varlo {
 // is none. Wraps at 32 bits.
 [[nodiscard]] std::int32_t LeadingInt(std::string_view text);
 
+// The byte of two hexadecimal characters; a missing one counts as 0. A decimal digit counts as its
+// value, any other character as its upper-case code less 55, whatever it is.
+[[nodiscard]] std::uint8_t HexPairValue(std::string_view pair);
+
 // Local time as "day/month/year hour:minute:second", two digits each; with `dayLast` the month comes
 // first. The empty text for a time that can't be told.
 [[nodiscard]] std::string DateToText(Clock& clock, std::int64_t time, bool dayLast);

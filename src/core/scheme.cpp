@@ -44,6 +44,7 @@ void SchemeListFree(Program& program, SchemeRecord* head) {
     forget(program.config.schemeStyles, record);
     forget(program.config.currentStyle, record);
     forget(program.config.currentScheme, record);
+    forget(program.config.insertAfter, record);
     forget(program.project.projectScheme, record);
     SchemeListFree(program, record.schemes);  // one level deep: a scheme has no schemes
     StringItemListFree(record.files);

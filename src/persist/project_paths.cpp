@@ -9,6 +9,10 @@ std::string ProjectTemplatePath(const StoreProject& project, std::string_view fi
 }
 
 void ProjectDirFromFile(StoreProject& project) {
+  if (project.projectFile.isNull()) {
+    project.projectDir.release();
+    return;
+  }
   const std::string_view file = project.projectFile.view();
   project.projectDir.assign(file.substr(0, file.rfind('\\')));
 }

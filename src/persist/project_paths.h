@@ -15,7 +15,7 @@ inline constexpr std::string_view kConfirmTemplateName = "confirm.htm";
 [[nodiscard]] std::string ProjectTemplatePath(const StoreProject& project, std::string_view fileName);
 
 // Makes projectDir follow projectFile: the path up to its last back slash, or, without one, the whole
-// name.
+// name. Null follows null.
 void ProjectDirFromFile(StoreProject& project);
 
 }  // namespace varlo

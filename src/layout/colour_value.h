@@ -1,0 +1,28 @@
+// Colours as numbers, and as the text with a hash and six digits that pages and schemes hold.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace varlo {
+
+// Red in the lowest byte, then green, then blue; the top byte is 0.
+using RgbValue = std::uint32_t;
+
+[[nodiscard]] constexpr RgbValue RgbOf(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
+  return red | static_cast<RgbValue>(green) << 8U | static_cast<RgbValue>(blue) << 16U;
+}
+
+// The byte that the first two characters stand for; a missing one counts as "0". Nothing is checked: a
+// character that is no digit gives some byte, always the same one.
+[[nodiscard]] std::uint8_t HexPairValue(std::string_view text);
+
+// The colour of six digits behind an optional hash and white space in front of it. 0, which is black,
+// when one of the three pairs does not start with a hexadecimal digit.
+[[nodiscard]] RgbValue ParseColourValue(std::string_view text);
+
+// A hash and six upper-case digits; the top byte is left out.
+[[nodiscard]] std::string FormatColourValue(RgbValue rgb);
+
+}  // namespace varlo

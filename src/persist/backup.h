@@ -1,0 +1,33 @@
+// The rolling backups of a project: before each save the file on disk is kept, the last ten times.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace varlo {
+
+struct Program;
+
+// A file in the backup folder.
+struct BackupEntry {
+  std::string path;        // full
+  std::int32_t time = 0;   // seconds since 1970 from its own TIME= line; 0 when it has none
+  std::uint32_t size = 0;  // low 32 bits
+};
+
+// Backups are numbered from 1, the newest, to this.
+inline constexpr int kBackups = 10;
+
+// Moves the backups of the open project up by one and copies its file to the first place. Gives the
+// result of that copy: 1 or 0; 0 with no project. Nothing else is told of what fails.
+int BackupRoll(Program& program);
+
+// Every file in the project's backup folder, whatever its name, by name.
+[[nodiscard]] std::vector<BackupEntry> BackupListRead(Program& program);
+
+// Copies a backup over the project's file, which is not kept, and opens it. Gives whether the copy
+// worked; the project is opened again in any case.
+bool BackupRestore(Program& program, const std::string& path);
+
+}  // namespace varlo
