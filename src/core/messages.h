@@ -9,6 +9,8 @@ namespace varlo {
 
 inline constexpr std::string_view kProductName = "Varlo PRO";
 inline constexpr std::string_view kProductVersion = "1.07";
+// The product's own site; every address on it starts with this.
+inline constexpr std::string_view kProductSite = "https://www.varlo.example";
 
 namespace message {
 

@@ -37,8 +37,12 @@ struct View {
   virtual void loadCardList() {}
   virtual void loadSchemeLists() {}
 
-  // Shows the context help of a topic.
-  virtual void showHelp(std::string_view /*topic*/) {}
+  // Shows the context help of a control or dialog in the help pane, if it is open.
+  virtual void showHelp(int /*id*/) {}
+  // Opens the help pane above the dialog with this number, on its topic.
+  virtual void openHelpPane(int /*dialogId*/) {}
+  // Shows an address or a file in the browser.
+  virtual void openInBrowser(std::string_view /*address*/) {}
   // Stores what the open form holds, as each edit in it does.
   virtual void storeForm() {}
   virtual void setWindowTitle(std::string_view /*title*/) {}

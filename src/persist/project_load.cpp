@@ -5,7 +5,6 @@
 #include "core/line_reader.h"
 #include "core/messages.h"
 #include "core/open_file.h"
-#include "core/paths.h"
 #include "core/program.h"
 #include "core/project_close.h"
 #include "persist/project_migrate.h"
@@ -22,8 +21,7 @@ void readTemplate(Program& program, int slot, std::string_view fileName, Text& t
 }
 
 void refreshView(Program& program) {
-  const std::string_view stem = PathStem(program.project.projectFile.view());
-  program.view.setWindowTitle(std::string(kProductName).append(" - ").append(stem));
+  ShowProjectTitle(program);
   program.view.loadForm();
   program.view.loadFreightList();
   program.view.loadCardList();

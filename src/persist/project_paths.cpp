@@ -1,6 +1,8 @@
 #include "persist/project_paths.h"
 
-#include "core/store_project.h"
+#include "core/messages.h"
+#include "core/paths.h"
+#include "core/program.h"
 
 namespace varlo {
 
@@ -15,6 +17,11 @@ void ProjectDirFromFile(StoreProject& project) {
   }
   const std::string_view file = project.projectFile.view();
   project.projectDir.assign(file.substr(0, file.rfind('\\')));
+}
+
+void ShowProjectTitle(Program& program) {
+  const std::string_view stem = PathStem(program.project.projectFile.view());
+  program.view.setWindowTitle(std::string(kProductName).append(" - ").append(stem));
 }
 
 }  // namespace varlo

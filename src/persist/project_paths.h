@@ -6,6 +6,7 @@
 
 namespace varlo {
 
+struct Program;
 struct StoreProject;
 
 inline constexpr std::string_view kOrderTemplateName = "order.htm";
@@ -17,5 +18,8 @@ inline constexpr std::string_view kConfirmTemplateName = "confirm.htm";
 // Makes projectDir follow projectFile: the path up to its last back slash, or, without one, the whole
 // name. Null follows null.
 void ProjectDirFromFile(StoreProject& project);
+
+// Names the product and the project in the title of the main window.
+void ShowProjectTitle(Program& program);
 
 }  // namespace varlo

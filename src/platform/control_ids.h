@@ -5,7 +5,13 @@
 
 namespace varlo {
 
-enum class DialogId { Preferences = 1000, SaveAs = 1100, Restore = 1200 };
+namespace dialog {
+
+inline constexpr int kPreferences = 1000;
+inline constexpr int kSaveAs = 1100;
+inline constexpr int kRestore = 1200;
+
+}  // namespace dialog
 
 namespace control {
 

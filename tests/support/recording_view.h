@@ -29,7 +29,9 @@ class RecordingView : public View {
   void loadFreightList() override { calls.emplace_back("loadFreightList"); }
   void loadCardList() override { calls.emplace_back("loadCardList"); }
   void loadSchemeLists() override { calls.emplace_back("loadSchemeLists"); }
-  void showHelp(std::string_view topic) override { calls.push_back("showHelp " + std::string(topic)); }
+  void showHelp(int id) override { calls.push_back("showHelp " + std::to_string(id)); }
+  void openHelpPane(int dialogId) override { calls.push_back("openHelpPane " + std::to_string(dialogId)); }
+  void openInBrowser(std::string_view address) override { calls.push_back("openInBrowser " + std::string(address)); }
   void storeForm() override { calls.emplace_back("storeForm"); }
   void setWindowTitle(std::string_view title) override { calls.push_back("setWindowTitle " + std::string(title)); }
 
