@@ -12,11 +12,39 @@ inline constexpr int kExitDone = 0;
 inline constexpr int kExitErrors = 1;  // done, with errors counted
 inline constexpr int kExitFailed = 2;  // could not be done, or wrong usage
 
-// Loads a project and saves it again; with an `output` the result goes to that file, and the project and
+struct CommandArguments {
+  std::string install;  // installation directory
+  std::string project;
+  std::string output;
+  std::string other;   // a second project
+  std::string at;      // file name of a node
+  std::string name;    // of a new project
+  std::string title;   // of its store
+  std::string scheme;  // "style/scheme"
+  int number = 0;      // of a backup
+};
+
+// Loads a project and saves it again; with an output the result goes to that file, and the project and
 // its templates stay untouched.
-int RunResave(Machine& machine, const std::string& project, const std::string& output);
+int RunResave(Machine& machine, const CommandArguments& arguments);
 
 // Prints a project as JSON.
-int RunDump(Machine& machine, const std::string& project);
+int RunDump(Machine& machine, const CommandArguments& arguments);
+
+// Adds the tree of another project behind the node with the given file name, else behind the root, and
+// saves, with a backup.
+int RunMerge(Machine& machine, const CommandArguments& arguments);
+
+// Replaces the freight tables by those of another project and saves, with a backup.
+int RunImportFreight(Machine& machine, const CommandArguments& arguments);
+
+// Makes a project in the installation's Projects folder and saves it. One that exists is not touched.
+int RunNew(Machine& machine, const CommandArguments& arguments);
+
+// Lists the backups of a project.
+int RunBackups(Machine& machine, const CommandArguments& arguments);
+
+// Brings a backup back over the project's file.
+int RunRestore(Machine& machine, const CommandArguments& arguments);
 
 }  // namespace varlo

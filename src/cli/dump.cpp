@@ -152,10 +152,10 @@ void printTree(std::ostream& out, StoreNode* root) {
 
 }  // namespace
 
-int RunDump(Machine& machine, const std::string& project) {
+int RunDump(Machine& machine, const CommandArguments& arguments) {
   GuardedFiles files(*machine.files);
   HeadlessProgram headless(machine, files);
-  if (!headless.load(project)) return kExitFailed;
+  if (!headless.load(arguments.project)) return kExitFailed;
   const StoreProject& loaded = headless.program().project;
   std::cout << openObject(settingsJson(loaded)) << ",\"nodes\":[";
   printTree(std::cout, loaded.root);

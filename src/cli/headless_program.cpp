@@ -1,17 +1,24 @@
 #include "cli/headless_program.h"
 
 #include "core/start_up.h"
+#include "persist/file_steps.h"
 #include "persist/project_load.h"
+#include "persist/project_paths.h"
 
 namespace varlo {
 
 HeadlessProgram::HeadlessProgram(Machine& machine, Files& files)
     : files_(files), program_(files, *machine.clock, screen_, *machine.clipboard, view_) {
-  StartUp(program_, {});
+  StartUp(program_, FileStartUpSteps());
+}
+
+void HeadlessProgram::name(const std::string& project) {
+  program_.project.projectFile.assign(std::string_view(files_.nameOf(project)));
+  ProjectDirFromFile(program_.project);
 }
 
 bool HeadlessProgram::load(const std::string& project) {
-  program_.project.projectFile.assign(std::string_view(files_.nameOf(project)));
+  name(project);
   return ProjectLoad(program_) == 1;
 }
 

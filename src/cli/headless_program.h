@@ -14,6 +14,9 @@ class HeadlessProgram {
   // Starts the program on `files`, which is the machine's or wraps it.
   HeadlessProgram(Machine& machine, Files& files);
 
+  // Makes the project the one to work on, without reading it.
+  void name(const std::string& project);
+
   // Loads the project; false when that can't be done, after a message.
   [[nodiscard]] bool load(const std::string& project);
 

@@ -1,7 +1,6 @@
 // varlo-cli: the engine without a window.
 
 #include <cstdlib>
-#include <functional>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -22,45 +21,67 @@ Machine makeMachine(const std::string& folder) {
   return machine;
 }
 
-struct Arguments {
-  std::string install;
-  std::string project;
-  std::string output;
+using Command = int (*)(Machine&, const CommandArguments&);
+
+// What the command line names, and the command to run with it.
+struct Choice {
+  CommandArguments arguments;
+  Command command = nullptr;
 };
 
-using Command = std::function<int(Machine&)>;
-
-CLI::App* addCommand(CLI::App& app, const char* name, const char* help, Arguments& arguments, Command& chosen,
-                     Command command) {
+CLI::App* addCommand(CLI::App& app, const char* name, const char* help, Command command, Choice& choice) {
   CLI::App* added = app.add_subcommand(name, help);
-  added->add_option("PROJECT.stp", arguments.project, "the project file")->required();
-  added->callback([&chosen, command = std::move(command)] { chosen = command; });
+  added->callback([&choice, command] { choice.command = command; });
   return added;
+}
+
+CLI::App* addProjectCommand(CLI::App& app, const char* name, const char* help, Command command, Choice& choice) {
+  CLI::App* added = addCommand(app, name, help, command, choice);
+  added->add_option("PROJECT.stp", choice.arguments.project, "the project file")->required();
+  return added;
+}
+
+void addCommands(CLI::App& app, Choice& choice) {
+  CommandArguments& arguments = choice.arguments;
+  addProjectCommand(app, "resave", "load a project and save it again", RunResave, choice)
+      ->add_option("--output", arguments.output, "write to this file; the project stays untouched");
+  addProjectCommand(app, "dump", "show a project as JSON", RunDump, choice);
+
+  CLI::App* merge = addProjectCommand(app, "merge", "add the tree of another project", RunMerge, choice);
+  merge->add_option("OTHER.stp", arguments.other, "the project that is added")->required();
+  merge->add_option("--at", arguments.at, "file name of the page it is added behind (default: the first)");
+
+  addProjectCommand(app, "import-freight", "take the freight tables of another project", RunImportFreight, choice)
+      ->add_option("OTHER.stp", arguments.other, "the project that they are taken from")
+      ->required();
+
+  CLI::App* added =
+      addCommand(app, "new", "make a project in the folder Projects of the installation", RunNew, choice);
+  added->add_option("NAME", arguments.name, "name of the project")->required();
+  added->add_option("--title", arguments.title, "title of the store")->required();
+  added->add_option("--scheme", arguments.scheme, "layout, as STYLE/SCHEME");
+
+  addProjectCommand(app, "backups", "list the backups of a project", RunBackups, choice);
+  addProjectCommand(app, "restore", "bring a backup back over the project", RunRestore, choice)
+      ->add_option("NUMBER", arguments.number, "number of the backup; 1 is the newest")
+      ->required();
 }
 
 int run(int argc, char** argv) {
   CLI::App app("Builds and handles Varlo PRO store projects without a window.", "varlo-cli");
-  Arguments arguments;
-  Command chosen;
+  Choice choice;
   app.require_subcommand(1);
-  app.add_option("--install", arguments.install,
+  app.add_option("--install", choice.arguments.install,
                  "installation directory that relative names are taken against (default: the current directory)")
       ->check(CLI::ExistingDirectory);
-
-  CLI::App* resave =
-      addCommand(app, "resave", "load a project and save it again", arguments, chosen,
-                 [&](Machine& machine) { return RunResave(machine, arguments.project, arguments.output); });
-  resave->add_option("--output", arguments.output, "write to this file; the project stays untouched");
-  addCommand(app, "dump", "show a project as JSON", arguments, chosen,
-             [&](Machine& machine) { return RunDump(machine, arguments.project); });
-
+  addCommands(app, choice);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? kExitDone : kExitFailed;
   }
-  Machine machine = makeMachine(arguments.install);
-  return chosen(machine);
+  Machine machine = makeMachine(choice.arguments.install);
+  return choice.command(machine, choice.arguments);
 }
 
 }  // namespace

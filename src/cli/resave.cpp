@@ -14,12 +14,12 @@ int resaveInPlace(Machine& machine, const std::string& project) {
 
 }  // namespace
 
-int RunResave(Machine& machine, const std::string& project, const std::string& output) {
-  if (output.empty()) return resaveInPlace(machine, project);
-  const std::string target = machine.files->nameOf(output);
+int RunResave(Machine& machine, const CommandArguments& arguments) {
+  if (arguments.output.empty()) return resaveInPlace(machine, arguments.project);
+  const std::string target = machine.files->nameOf(arguments.output);
   GuardedFiles files(*machine.files, target);
   HeadlessProgram headless(machine, files);
-  if (!headless.load(project)) return kExitFailed;
+  if (!headless.load(arguments.project)) return kExitFailed;
   StoreProject& loaded = headless.program().project;
   loaded.projectFile.assign(std::string_view(target));
   loaded.projectDir.release();  // without it the save leaves the templates alone

@@ -20,6 +20,9 @@ struct Machine {
 // The machine, with `folder`, as its user spells it, as working folder; empty for the current one.
 [[nodiscard]] Machine MakeMachine(const std::string& folder);
 
+// An argument of the command line as a text of the program.
+[[nodiscard]] std::string TextFromArgument(std::string_view argument);
+
 // A text of the program as the machine's terminal shows it.
 [[nodiscard]] std::string TerminalText(std::string_view text);
 

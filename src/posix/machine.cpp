@@ -13,6 +13,8 @@ Machine MakeMachine(const std::string& folder) {
           .clipboard = std::make_unique<ProcessClipboard>()};
 }
 
+std::string TextFromArgument(std::string_view argument) { return BytesFromUtf8(argument); }
+
 std::string TerminalText(std::string_view text) { return Utf8FromBytes(text); }
 
 }  // namespace varlo

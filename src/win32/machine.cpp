@@ -16,6 +16,8 @@ Machine MakeMachine(const std::string& folder) {
           .clipboard = std::make_unique<Win32Clipboard>()};
 }
 
+std::string TextFromArgument(std::string_view argument) { return std::string(argument); }
+
 std::string TerminalText(std::string_view text) { return std::string(text); }
 
 }  // namespace varlo

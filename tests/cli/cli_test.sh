@@ -1,0 +1,123 @@
+#!/bin/sh
+# cli_test.sh COMMAND...: drives varlo-cli, which COMMAND starts, through its commands in a folder of its
+# own, and checks exit status, output and files.
+set -u
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work" || exit 2
+export SOURCE_DATE_EPOCH=1044072306
+failures=0
+
+fail() {
+  failures=$((failures + 1))
+  echo "FAILED: $1" >&2
+  sed 's/^/  | /' out err >&2
+}
+# run STATUS ARGUMENT...: the program with these arguments must exit with this status.
+run() {
+  expected=$1
+  shift
+  "$cli" "$@" >out 2>err </dev/null
+  status=$?
+  [ "$status" -eq "$expected" ] || fail "varlo-cli $* gave $status, not $expected"
+}
+shows() { grep -qF -- "$1" out || fail "output lacks: $1"; }
+tells() { grep -qF -- "$1" err || fail "messages lack: $1"; }
+holds() { grep -qxF -- "$2" "$1" || { cp "$1" out; fail "$1 lacks the line: $2"; }; }
+same() { cmp -s "$1" "$2" || fail "$1 and $2 differ"; }
+
+# One command of several words becomes one program.
+printf '#!/bin/sh\nexec "%s" ' "$1" >start
+shift
+for word in "$@"; do printf '"%s" ' "$word" >>start; done
+printf '"$@"\n' >>start
+chmod +x start
+cli=$work/start
+
+mkdir -p install/template install/Projects
+printf 'AU Australia\n' >install/domain.dat
+printf 'Visa\n' >install/cc.dat
+printf 'order form\n' >install/template/order.dat
+printf 'confirmation\n' >install/template/confirm.dat
+
+# Wrong usage.
+run 2
+run 2 dump
+run 2 nonsense
+run 2 --install nowhere dump a.stp
+run 0 --help
+shows resave
+
+# A new project.
+run 0 --install install new Shop --title 'My Shop'
+project=install/Projects/Shop/Shop.stp
+holds $project TIME=1044072306
+holds $project 'NODE0=My Shop'
+holds $project FILE=1.htm
+holds $project 'STITLE=My Shop'
+holds install/config.ini uid=1
+cmp -s install/template/order.dat install/Projects/Shop/Template/order.htm || fail 'the order form was not copied'
+cp $project first.stp
+run 2 --install install new Shop --title Other
+tells 'exists already'
+same $project first.stp
+run 2 --install install new a/b --title Other
+tells 'Error: Invalid Project Name.  The name must not include forward/back slash characters or commas.'
+run 2 --install install new Other --title T --scheme No/Such
+tells 'there is no scheme'
+run 0 --install install new Other --title Other --scheme 'Varlo Default/Default'
+holds install/Projects/Other/Other.stp 'LAYOUT=Varlo Default/Default'
+
+# Rewriting.
+run 0 --install install resave Projects/Shop/Shop.stp
+same $project first.stp
+run 0 --install install resave Projects/Shop/Shop.stp --output copy.stp
+same install/copy.stp first.stp
+run 2 --install install resave Projects/Shop/Gone.stp
+tells "S103: Unable to read project file"
+run 2 --install install resave Projects/Shop/Shop.stp --output none/copy.stp
+tells 'Error: S101: File Write Error'
+
+# An old project is shown, and written elsewhere, without being touched.
+mkdir -p old/Template
+printf 'NODE0=Old\nCOST=\nTEMP=\351\n' >old/old.stp
+printf 'mine' >old/Template/order.htm
+run 0 --install install dump "$work/old/old.stp"
+tells 'Project Upgrade: Your project was saved with an older version of Varlo PRO.'
+shows '"title":"Old","cost":"","templateName":"é"'
+run 0 --install install resave "$work/old/old.stp" --output out.stp
+holds install/out.stp VERSION=107001
+[ "$(cat old/Template/order.htm)" = mine ] || fail 'a template was renewed'
+[ "$(ls old/Template)" = order.htm ] || fail 'a template was added'
+grep -q VERSION old/old.stp && fail 'the old project was rewritten'
+
+# Merging, with a backup of what was there.
+run 0 --install install merge Projects/Shop/Shop.stp Projects/Other/Other.stp --at nowhere.htm
+holds $project 'NODE0=Other'
+cmp -s first.stp install/Projects/Shop/Backup/Shop.stp.1 || fail 'the merge made no backup'
+run 2 --install install merge Projects/Shop/Shop.stp Projects/Gone.stp
+tells "S105: Unable to read project file"
+
+# Freight tables.
+printf '$au0,5,1,,,,,,,,,,,7,|1\nRULE=0,free\nFNAME=0,Bike\n' >install/tables.stp
+run 0 --install install import-freight Projects/Shop/Shop.stp tables.stp
+holds $project '$AU0,5,1,,,,,,,,,,,,|1'
+holds $project 'RULE=0,free'
+holds $project 'FNAME=0,Bike'
+
+# Backups.
+run 0 --install install backups Projects/Shop/Shop.stp
+shows '1	01/02/03 04:05:06'
+shows 'Shop.stp.2'
+run 0 --install install restore Projects/Shop/Shop.stp 2
+same $project first.stp
+run 2 --install install restore Projects/Shop/Shop.stp 7
+tells 'there is no backup 7'
+
+# What is missing in the installation is told and does not stop a command.
+run 0 dump "$work/$project"
+tells "Error: ERROR W106: Unable to Load Domains List 'domain.dat'"
+tells "Error: ERROR W107: Unable to open credit card list file 'cc.dat'"
+
+[ "$failures" -eq 0 ] && echo 'varlo-cli does what it says.'
+[ "$failures" -eq 0 ]
