@@ -55,9 +55,9 @@ void Reader::openCategory() {
   if (!config_.insertAfterIsScheme) categoryPending_ = true;
 }
 
-// A mark that closes nothing is ignored.
+// A mark that closes nothing is ignored: the next record goes behind the last one all the same.
 void Reader::closeCategory() {
-  if (styleHolder_ == nullptr) return;
+  if (styleHolder_ == nullptr || !config_.insertAfterIsScheme) return;
   config_.insertAfter = styleHolder_;
   config_.insertAfterIsScheme = false;
 }
