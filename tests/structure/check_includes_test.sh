@@ -1,0 +1,82 @@
+#!/bin/sh
+# Shows that check_includes.sh can fail: makes small source trees with one offence each, which it must
+# refuse with the right words, and trees without any, which it must accept.
+set -eu
+check=$(CDPATH='' cd -- "$(dirname -- "$0")" && pwd)/check_includes.sh
+tree=$(mktemp -d)
+trap 'rm -rf -- "$tree"' EXIT
+failures=0
+
+# include FILE LINE: the tree becomes this file, with this line, beside a header in each folder.
+include() {
+  rm -rf -- "${tree:?}"/*
+  for folder in platform core persist layout commerce import generator shell win32 posix cli; do
+    mkdir "$tree/$folder"
+    echo '#pragma once' >"$tree/$folder/thing.h"
+  done
+  mkdir -p -- "$tree/$(dirname -- "$1")"
+  printf '// A comment.\n%s\n' "$2" >"$tree/$1"
+}
+
+refuses() {
+  include "$1" "$2"
+  if said=$("$check" "$tree") || [ "$said" != "$3" ]; then
+    printf 'FAILED: %s with %s\n  expected: %s\n  got:      %s\n' "$1" "$2" "$3" "$said"
+    failures=$((failures + 1))
+  fi
+}
+
+accepts() {
+  include "$1" "$2"
+  if ! said=$("$check" "$tree"); then
+    printf 'FAILED: %s with %s was refused: %s\n' "$1" "$2" "$said"
+    failures=$((failures + 1))
+  fi
+}
+
+# Upwards.
+refuses core/a.cpp '#include "persist/thing.h"' 'core/a.cpp includes persist/thing.h: core may not use persist'
+refuses persist/a.h '#include "shell/thing.h"' 'persist/a.h includes shell/thing.h: persist may not use shell'
+refuses persist/a.h '#include "commerce/thing.h"' \
+  'persist/a.h includes commerce/thing.h: persist may not use commerce'
+refuses layout/a.h '#include "generator/thing.h"' 'layout/a.h includes generator/thing.h: layout may not use generator'
+refuses shell/a.cpp '#include "win32/thing.h"' 'shell/a.cpp includes win32/thing.h: shell may not use win32'
+refuses platform/a.h '#include "core/thing.h"' 'platform/a.h includes core/thing.h: platform may not use core'
+# Sideways.
+refuses import/a.cpp '#include "generator/thing.h"' \
+  'import/a.cpp includes generator/thing.h: import may not use generator'
+refuses layout/a.cpp '#include "commerce/thing.h"' 'layout/a.cpp includes commerce/thing.h: layout may not use commerce'
+refuses cli/a.cpp '#include "posix/thing.h"' 'cli/a.cpp includes posix/thing.h: cli may not use posix'
+# Other ways of writing the same.
+refuses core/a.cpp '  #  include <persist/thing.h>' 'core/a.cpp includes persist/thing.h: core may not use persist'
+refuses core/a.cpp '#include "../persist/thing.h"' 'core/a.cpp includes ../persist/thing.h: core may not use persist'
+refuses core/deep/a.cpp '#include "../../persist/./thing.h"' \
+  'core/deep/a.cpp includes ../../persist/./thing.h: core may not use persist'
+refuses core/a.cpp '#include "persist/not_made_yet.h"' \
+  'core/a.cpp includes persist/not_made_yet.h: core may not use persist'
+refuses core/a.cpp '#include HEADER' \
+  'core/a.cpp includes #include HEADER: the name of the header must be written out'
+# The machine.
+refuses core/a.cpp '#include <windows.h>' 'core/a.cpp includes windows.h: only win32 may use Windows'
+refuses shell/a.cpp '#include <Windows.h>' 'shell/a.cpp includes Windows.h: only win32 may use Windows'
+refuses posix/a.cpp '#include <shellapi.h>' 'posix/a.cpp includes shellapi.h: only win32 may use Windows'
+refuses core/a.cpp '#include <unistd.h>' 'core/a.cpp includes unistd.h: only posix may use POSIX'
+refuses cli/a.cpp '#include <sys/stat.h>' 'cli/a.cpp includes sys/stat.h: only posix may use POSIX'
+refuses win32/a.cpp '#include <dirent.h>' 'win32/a.cpp includes dirent.h: only posix may use POSIX'
+# A folder that nobody has placed.
+refuses utilities/a.cpp '#include <string>' 'utilities/a.cpp lies in no folder of the architecture'
+
+accepts core/a.cpp '#include "platform/thing.h"'
+accepts core/a.cpp '#include "core/thing.h"'
+accepts core/a.cpp '#include "thing.h"'
+accepts core/a.cpp '#include <string>'
+accepts core/a.cpp '#include <time.h>'
+accepts core/a.cpp '// #include "shell/thing.h"'
+accepts layout/a.cpp '#include "persist/thing.h"'
+accepts shell/a.cpp '#include "generator/thing.h"'
+accepts win32/a.cpp '#include <windows.h>'
+accepts win32/a.cpp '#include "shell/thing.h"'
+accepts posix/a.cpp '#include <sys/stat.h>'
+accepts cli/a.cpp '#include <nlohmann/json.hpp>'
+
+exit "$failures"
