@@ -34,7 +34,8 @@ int changeProject(Machine& machine, const CommandArguments& arguments, Change ch
 
 int RunMerge(Machine& machine, const CommandArguments& arguments) {
   return changeProject(machine, arguments, [&](Program& program, const std::string& other) {
-    StoreNode* place = arguments.at.empty() ? nullptr : findPage(program.project.root, TextFromArgument(arguments.at));
+    StoreNode* place =
+        arguments.at.empty() ? nullptr : findPage(program.project.root, TextFromArgument(arguments.at));
     if (place != nullptr) program.project.currentNode = place;
     return ProjectMerge(program, other.c_str());
   });
