@@ -1,10 +1,5 @@
 #include "core/line_reader.h"
 
-#include <algorithm>
-#include <cstring>
-
-#include "core/text_edit.h"
-
 namespace varlo {
 namespace {
 
@@ -44,12 +39,6 @@ bool LineReader::fill() {
   return end_ > before;
 }
 
-std::size_t LineReader::take(std::size_t size, std::string_view& line) {
-  line = {buffer_.get() + begin_, size};
-  begin_ += size;
-  return size;
-}
-
 // A line that begins with a NUL: block by block, as the dropping of NULs goes by blocks.
 std::size_t LineReader::takeBehindNul(std::string_view& line) {
   std::size_t raw = 0;
@@ -69,23 +58,16 @@ std::size_t LineReader::takeBehindNul(std::string_view& line) {
   return take(raw - dropped, line);
 }
 
-std::size_t LineRead(LineReader& reader, std::string_view& line) {
+std::size_t LineReader::takeSlowly(std::string_view& line) {
   for (;;) {
-    const char* base = reader.buffer_.get() + reader.begin_;
-    const std::size_t size = reader.end_ - reader.begin_;
-    if (size > 0 && base[0] == '\0') return reader.takeBehindNul(line);
-    const char* lineEnd = findByte(base, '\n', std::min(size, reader.cut_));
-    if (lineEnd != nullptr) return reader.take(static_cast<std::size_t>(lineEnd - base) + 1, line);
-    if (size >= reader.cut_) return reader.take(reader.cut_, line);
-    if (!reader.fill()) return reader.take(size, line);
+    const char* base = buffer_.get() + begin_;
+    const std::size_t size = end_ - begin_;
+    if (size > 0 && base[0] == '\0') return takeBehindNul(line);
+    const char* lineEnd = findByte(base, '\n', std::min(size, cut_));
+    if (lineEnd != nullptr) return take(static_cast<std::size_t>(lineEnd - base) + 1, line);
+    if (size >= cut_) return take(cut_, line);
+    if (!fill()) return take(size, line);
   }
-}
-
-std::size_t LineReadTrimmed(LineReader& reader, std::string_view& line) {
-  const std::size_t length = LineRead(reader, line);
-  if (reader.holdsNul_) line = line.substr(0, line.find('\0'));
-  line = TrimEnd(line);
-  return length;
 }
 
 }  // namespace varlo

@@ -3,11 +3,14 @@
 // time and sets the file back behind each line.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <memory>
 #include <string_view>
 
 #include "core/limits.h"
+#include "core/text_edit.h"
 #include "platform/files.h"
 
 namespace varlo {
@@ -23,7 +26,12 @@ class LineReader {
   friend std::size_t LineReadTrimmed(LineReader& reader, std::string_view& line);
 
   bool fill();
-  std::size_t take(std::size_t size, std::string_view& line);
+  std::size_t take(std::size_t size, std::string_view& line) {
+    line = {buffer_.get() + begin_, size};
+    begin_ += size;
+    return size;
+  }
+  std::size_t takeSlowly(std::string_view& line);
   std::size_t takeBehindNul(std::string_view& line);
 
   Files& files_;
@@ -44,10 +52,26 @@ class LineReader {
 // - A NUL at the start of a line is dropped, one for each block that the line takes, and does not count
 //   towards the cut. Other NULs stay: a reader that takes a line as a string sees it up to the first.
 // - A last line without a line end is delivered.
-std::size_t LineRead(LineReader& reader, std::string_view& line);
+inline std::size_t LineRead(LineReader& reader, std::string_view& line) {
+  // Nearly every line lies whole in the buffer.
+  const std::size_t size = std::min(reader.end_ - reader.begin_, reader.cut_);
+  const char* base = reader.buffer_.get() + reader.begin_;
+  if (size > 0 && base[0] != '\0') {
+    const void* lineEnd = std::memchr(base, '\n', size);
+    if (lineEnd != nullptr) {
+      return reader.take(static_cast<std::size_t>(static_cast<const char*>(lineEnd) - base) + 1, line);
+    }
+  }
+  return reader.takeSlowly(line);
+}
 
 // The same line as its reader sees it: up to its first NUL, then through TrimEnd. Gives 0 at the end of
 // the file, else the length before trimming.
-std::size_t LineReadTrimmed(LineReader& reader, std::string_view& line);
+inline std::size_t LineReadTrimmed(LineReader& reader, std::string_view& line) {
+  const std::size_t length = LineRead(reader, line);
+  if (reader.holdsNul_) line = line.substr(0, line.find('\0'));
+  line = TrimEnd(line);
+  return length;
+}
 
 }  // namespace varlo

@@ -3,8 +3,9 @@
 namespace varlo {
 
 void LineWriter::flush() {
-  if (file_ != kNoFile && used_ > 0) files_.write(file_, buffer_.get(), used_);
-  used_ = 0;
+  const auto used = static_cast<std::size_t>(at_ - buffer_.get());
+  if (file_ != kNoFile && used > 0) files_.write(file_, buffer_.get(), used);
+  at_ = buffer_.get();
 }
 
 }  // namespace varlo

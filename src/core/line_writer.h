@@ -20,25 +20,31 @@ class LineWriter {
   // Writes to an open file, which the caller closes behind this object; kNoFile takes nothing. What was
   // collected goes out when the object ends. Nobody looks at the results of the writes.
   LineWriter(Files& files, FileHandle file)
-      : files_(files), file_(file), buffer_(std::make_unique_for_overwrite<char[]>(kBuffer)) {}
+      : files_(files), file_(file), buffer_(std::make_unique_for_overwrite<char[]>(kBuffer)), at_(buffer_.get()) {}
   ~LineWriter() { flush(); }
   LineWriter(const LineWriter&) = delete;
   LineWriter& operator=(const LineWriter&) = delete;
 
   // Starts a piece of at most kWrittenLine bytes.
   void begin() {
-    if (kBuffer - used_ < kWrittenLine) flush();
-    room_ = kWrittenLine;
+    if (buffer_.get() + kBuffer - at_ < static_cast<std::ptrdiff_t>(kWrittenLine)) flush();
+    cut_ = at_ + kWrittenLine;
   }
   void add(std::string_view bytes) {
-    const std::size_t size = bytes.size() < room_ ? bytes.size() : room_;
+    const std::size_t size = bytes.size() < room() ? bytes.size() : room();
     if (size == 0) return;
-    std::memcpy(buffer_.get() + used_, bytes.data(), size);
-    used_ += size;
-    room_ -= size;
+    std::memcpy(at_, bytes.data(), size);
+    at_ += size;
   }
   void add(const Text& text) { add(text.view()); }
-  void add(const char* bytes) { add(std::string_view(bytes)); }
+  // A literal has a fixed size, so that it goes over in a move or two.
+  template <std::size_t kSize>
+  void add(const char (&literal)[kSize]) {
+    constexpr std::size_t kLength = kSize - 1;
+    if (room() < kLength) return add(std::string_view(literal, kLength));
+    std::memcpy(at_, literal, kLength);
+    at_ += kLength;
+  }
   template <std::integral Number>
   void add(Number number) {
     std::array<char, 24> digits;
@@ -49,11 +55,15 @@ class LineWriter {
 
  private:
   static constexpr std::size_t kBuffer = 64 * 1024;
+  [[nodiscard]] std::size_t room() const { return static_cast<std::size_t>(cut_ - at_); }
+
   Files& files_;
   FileHandle file_;
   std::unique_ptr<char[]> buffer_;
-  std::size_t used_ = 0;
-  std::size_t room_ = 0;
+  // One position that moves, and not a count beside it: two would be written apart and read back together,
+  // which stalls on every piece.
+  char* at_;
+  char* cut_ = nullptr;  // end of the room of the running piece
 };
 
 // Writes the values one behind the other: texts (an absent one is empty) and decimal numbers. More than

@@ -18,8 +18,10 @@ void NodePool::release(StoreNode& node) {
   node.released = true;
 }
 
+// Backwards: the texts go back in the reverse order of their making, so that the next project finds their
+// places in the order of memory.
 void NodePool::reset() {
-  chunks_.clear();
+  while (!chunks_.empty()) chunks_.pop_back();
   used_ = kChunkNodes;
 }
 

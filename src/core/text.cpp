@@ -3,17 +3,19 @@
 #include <cstring>
 #include <utility>
 
-#include "core/text_pool.h"
-
 namespace varlo {
 
 Text& Text::operator=(const Text& other) {
-  if (this != &other) assign(other.bytes_);
+  if (other.isNull()) {
+    release();
+  } else if (this != &other) {
+    assignLine(other.view());
+  }
   return *this;
 }
 
 Text& Text::operator=(Text&& other) noexcept {
-  std::swap(bytes_, other.bytes_);
+  std::swap(handle_, other.handle_);
   return *this;
 }
 
@@ -28,23 +30,24 @@ void Text::assign(const char* bytes) {
 void Text::assign(std::string_view bytes) { assignLine(bytes.substr(0, bytes.find('\0'))); }
 
 void Text::assignLine(std::string_view bytes) {
-  char* copy = TextPoolAllocate(bytes.size());
+  const TextHandle made = TextPoolAllocate(bytes.size());
+  char* copy = TextPoolBytes(made);
   // The old text goes last: `bytes` may be a part of it.
   if (!bytes.empty()) std::memcpy(copy, bytes.data(), bytes.size());
   copy[bytes.size()] = '\0';
   release();
-  bytes_ = copy;
+  handle_ = made;
 }
 
 void Text::release() {
-  if (bytes_ == nullptr) return;
-  TextPoolRelease(bytes_, std::strlen(bytes_));
-  bytes_ = nullptr;
+  if (isNull()) return;
+  TextPoolRelease(handle_);
+  handle_ = kNoText;
 }
 
 bool operator==(const Text& left, const Text& right) {
   if (left.isNull() || right.isNull()) return left.isNull() == right.isNull();
-  return std::strcmp(left.get(), right.get()) == 0;
+  return left.view() == right.view();
 }
 
 }  // namespace varlo

@@ -1,10 +1,12 @@
 // Text: a nullable, owned byte string, as every record holds its texts. Null ("absent") and empty
 // ("present, but nothing in it") are kept apart, though both count as "no value" wherever a value is
-// tested. It is one pointer wide; the bytes never change their length in place.
+// tested. It is half a pointer wide; the bytes never change their length in place.
 #pragma once
 
 #include <cstddef>
 #include <string_view>
+
+#include "core/text_pool.h"
 
 namespace varlo {
 
@@ -13,8 +15,8 @@ class Text {
   Text() = default;
   Text(const char* bytes) { assign(bytes); }                // null stays null
   explicit Text(std::string_view bytes) { assign(bytes); }  // never null
-  Text(const Text& other) { assign(other.bytes_); }
-  Text(Text&& other) noexcept : bytes_(other.bytes_) { other.bytes_ = nullptr; }
+  Text(const Text& other) { *this = other; }
+  Text(Text&& other) noexcept : handle_(other.handle_) { other.handle_ = kNoText; }
   ~Text() { release(); }
 
   Text& operator=(const Text& other);
@@ -30,18 +32,20 @@ class Text {
   void release();
 
   // The string, or null when absent.
-  [[nodiscard]] const char* get() const { return bytes_; }
+  [[nodiscard]] const char* get() const { return isNull() ? nullptr : TextPoolBytes(handle_); }
   // The string, empty when absent.
-  [[nodiscard]] const char* orEmpty() const { return bytes_ == nullptr ? "" : bytes_; }
-  [[nodiscard]] std::string_view view() const { return {orEmpty()}; }
-  [[nodiscard]] bool isNull() const { return bytes_ == nullptr; }
+  [[nodiscard]] const char* orEmpty() const { return isNull() ? "" : TextPoolBytes(handle_); }
+  [[nodiscard]] std::string_view view() const {
+    return isNull() ? std::string_view("") : std::string_view(TextPoolBytes(handle_), TextPoolLength(handle_));
+  }
+  [[nodiscard]] bool isNull() const { return handle_ == kNoText; }
   // Neither null nor empty.
-  [[nodiscard]] bool isSet() const { return bytes_ != nullptr && bytes_[0] != '\0'; }
+  [[nodiscard]] bool isSet() const { return !isNull() && TextPoolBytes(handle_)[0] != '\0'; }
   // For edits that keep the length; null when absent.
-  [[nodiscard]] char* data() { return bytes_; }
+  [[nodiscard]] char* data() { return isNull() ? nullptr : TextPoolBytes(handle_); }
 
  private:
-  char* bytes_ = nullptr;
+  TextHandle handle_ = kNoText;
 };
 
 // Equal bytes, null apart from empty.

@@ -12,13 +12,15 @@ namespace varlo {
 namespace {
 
 struct Block {
+  TextHandle text = kNoText;
   char* bytes = nullptr;
   std::size_t length = 0;
   char mark = 0;
 };
 
 Block allocate(std::size_t length, char mark) {
-  Block block{TextPoolAllocate(length), length, mark};
+  const TextHandle text = TextPoolAllocate(length);
+  Block block{text, TextPoolBytes(text), length, mark};
   std::memset(block.bytes, mark, length);
   block.bytes[length] = '\0';
   return block;
@@ -27,6 +29,7 @@ Block allocate(std::size_t length, char mark) {
 // Whether nobody has written into the block since.
 bool isWhole(const Block& block) {
   const auto sameMark = [&](char byte) { return byte == block.mark; };
+  if (TextPoolBytes(block.text) != block.bytes || TextPoolLength(block.text) != block.length) return false;
   return std::all_of(block.bytes, block.bytes + block.length, sameMark) && block.bytes[block.length] == '\0';
 }
 
@@ -36,7 +39,7 @@ TEST(TextPool, HasRoomForTheTerminatorAtEveryLength) {
     blocks.push_back(allocate(length, static_cast<char>(length % 251 + 1)));
   }
   for (const Block& block : blocks) EXPECT_TRUE(isWhole(block)) << block.length;
-  for (const Block& block : blocks) TextPoolRelease(block.bytes, block.length);
+  for (const Block& block : blocks) TextPoolRelease(block.text);
 }
 
 TEST(TextPool, BlocksThatLiveAtTheSameTimeAreApart) {
@@ -46,14 +49,17 @@ TEST(TextPool, BlocksThatLiveAtTheSameTimeAreApart) {
     blocks.push_back(allocate(static_cast<std::size_t>(i % 24), 'x'));
     EXPECT_TRUE(seen.insert(blocks.back().bytes).second);
   }
-  for (const Block& block : blocks) TextPoolRelease(block.bytes, block.length);
+  for (const Block& block : blocks) TextPoolRelease(block.text);
 }
 
 TEST(TextPool, TakesAWholeProjectsLineAndMore) {
-  for (const std::size_t length : {std::size_t{511}, std::size_t{512}, std::size_t{20000}, std::size_t{3000000}}) {
-    const Block block = allocate(length, 'L');
-    EXPECT_TRUE(isWhole(block)) << length;
-    TextPoolRelease(block.bytes, block.length);
+  constexpr std::size_t kLengths[] = {509,   510,   511,   4093,  4094,  4095,  19968, 20000,  20476,
+                                      20477, 20478, 20479, 20480, 65534, 65535, 65536, 100000, 3000000};
+  for (int round = 0; round < 3; ++round) {
+    std::vector<Block> blocks;
+    for (const std::size_t length : kLengths) blocks.push_back(allocate(length, 'L'));
+    for (const Block& block : blocks) EXPECT_TRUE(isWhole(block)) << block.length;
+    for (const Block& block : blocks) TextPoolRelease(block.text);
   }
 }
 
@@ -69,13 +75,13 @@ TEST(TextPool, KeepsEveryLiveBlockWholeWhileOthersComeAndGo) {
     }
     Block& block = blocks[random() % blocks.size()];
     ASSERT_TRUE(isWhole(block)) << "step " << step;
-    TextPoolRelease(block.bytes, block.length);
+    TextPoolRelease(block.text);
     block = blocks.back();
     blocks.pop_back();
   }
   for (const Block& block : blocks) {
     EXPECT_TRUE(isWhole(block));
-    TextPoolRelease(block.bytes, block.length);
+    TextPoolRelease(block.text);
   }
 }
 
