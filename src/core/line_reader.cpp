@@ -39,7 +39,8 @@ bool LineReader::fill() {
   return end_ > before;
 }
 
-// A line that begins with a NUL: block by block, as the dropping of NULs goes by blocks.
+// A line that begins with a NUL: block by block, as the dropping of NULs goes by blocks. Behind the whole
+// blocks up to the cut, one more brings the line to its full length, and drops nothing.
 std::size_t LineReader::takeBehindNul(std::string_view& line) {
   std::size_t raw = 0;
   std::size_t dropped = 0;
@@ -49,7 +50,7 @@ std::size_t LineReader::takeBehindNul(std::string_view& line) {
     if (left == 0) break;
     const char* base = buffer_.get() + begin_;
     const std::size_t block = std::min({kReadBlock, cut_ - (raw - dropped), left});
-    if (base[dropped] == '\0') ++dropped;
+    if (raw < cut_ && base[dropped] == '\0') ++dropped;
     const char* lineEnd = findByte(base + raw, '\n', block);
     raw = lineEnd == nullptr ? raw + block : static_cast<std::size_t>(lineEnd - base) + 1;
     if (lineEnd != nullptr) break;

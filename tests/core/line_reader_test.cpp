@@ -252,11 +252,13 @@ std::string plainLine(Files& files, FileHandle file, std::size_t maximum) {
   const std::size_t cut = maximum / 256 * 256;
   std::string line;
   char block[256];
+  std::size_t raw = 0;
   while (line.size() < cut) {
     const std::size_t got = files.read(file, block, sizeof block);
     if (got == 0) break;
     line.append(block, got);
-    if (line[0] == '\0') line.erase(0, 1);
+    if (raw < cut && line[0] == '\0') line.erase(0, 1);
+    raw += got;
     const std::size_t lineEnd = line.find('\n');
     const std::size_t length = std::min({lineEnd == std::string::npos ? line.size() : lineEnd + 1, line.size(), cut});
     files.seek(file, -static_cast<std::int64_t>(line.size() - length), SeekFrom::Current);
@@ -330,6 +332,12 @@ class RandomFile {
 
 TrimmedLine trimmed(const std::string& line) {
   return {line.size(), std::string(TrimEnd(std::string_view(line).substr(0, line.find('\0'))))};
+}
+
+TEST(LineRead, ALineOfNulsAloneEndsAtTheCutToo) {
+  // 78 blocks lose a NUL each; one more block brings the line to its full length.
+  EXPECT_EQ(linesOf(nuls(70000) + "x\n"),
+            (Lines{nuls(19968), nuls(19968), nuls(19968), nuls(70000 - 3 * 20046 - 39) + "x\n"}));
 }
 
 TEST(LineRead, ReadsAnyFileAsThePlainReaderDoes) {

@@ -281,13 +281,15 @@ void migrate(PlainProject& project, PlainMachine& machine) {
 
 bool PlainLines::next(std::string& line) {
   line.clear();
+  std::size_t raw = 0;
   while (line.size() < kLineCut) {
     const std::string_view block = file_.substr(at_, std::min<std::size_t>(256, kLineCut - line.size()));
     if (block.empty()) break;
     at_ += block.size();
     std::size_t searched = line.size();
     line += block;
-    if (line[0] == '\0') {
+    raw += block.size();
+    if (raw <= kLineCut && line[0] == '\0') {
       line.erase(0, 1);
       if (searched > 0) --searched;
     }
