@@ -21,7 +21,7 @@ step() {
     return
   fi
   printf 'FAILED\n'
-  tail -n 100 "$log" >&2
+  grep -vE '^\[[0-9]+/[0-9]+\] ' "$log" | tail -n 60 >&2 # without ninja's count of steps
   fail "\"$text\" failed; the end of $PWD/$log is above."
 }
 

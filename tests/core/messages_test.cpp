@@ -35,6 +35,40 @@ TEST(Messages, ErrorsOfFilesCarryTheirCodes) {
   EXPECT_EQ(message::kPageWriteError, "ERROR R106: Unable to open HTML output file");
 }
 
+TEST(Messages, ProjectsThatAreOpenedMadeAndCopied) {
+  EXPECT_EQ(message::kProjectOpenError, "ERROR S105: Unable to open project file");
+  EXPECT_EQ(message::kOtherProjectReadError, "S105: Unable to read project file '%s'");
+  EXPECT_EQ(message::kInvalidProjectName,
+            "Invalid Project Name.  The name must not include forward/back slash characters or commas.");
+  EXPECT_EQ(message::kOrderCopyError, "ERROR M101: Copying 'template\\order.dat' template");
+  EXPECT_EQ(message::kConfirmCopyError, "ERROR M101: Copying 'template\\confirm.dat' template");
+  EXPECT_EQ(message::kFolderError, "Unable to create a new Project Directory '%s'.");
+  EXPECT_EQ(message::kFolderExists,
+            "A Project Directory with the same name already exists.  Would you like to overwrite it?");
+  EXPECT_EQ(message::kOpenTitle, "Open Project");
+  EXPECT_EQ(message::kSaveAsTitle, "Save Project As");
+  EXPECT_EQ(message::kImportTitle, "Import from Project");
+  EXPECT_EQ(message::kProjectFilter, "Store Project (*.stp)$*.stp$$");
+}
+
+TEST(Messages, TheRestoreQuestionEndsInABlank) {
+  EXPECT_EQ(
+      message::kRestore,
+      "You are about to revert to a previously saved version of the store project.  All current changes will be "
+      "lost. Do you wish to proceed? ");
+}
+
+TEST(Messages, ErrorsOfTheInstallationsFilesCarryTheirCodes) {
+  EXPECT_EQ(message::kRegionsError, "ERROR W106: Unable to Load Domains List 'domain.dat'");
+  EXPECT_EQ(message::kCardsError, "ERROR W107: Unable to open credit card list file 'cc.dat'");
+  EXPECT_EQ(message::kCatalogueError, "ERROR W124: Unable to open file 'scheme.ini'");
+  EXPECT_EQ(message::kNoScheme, "No scheme defined for current store.");
+}
+
+TEST(Messages, TheErrorOfTheConfigurationNamesAnotherFile) {
+  EXPECT_EQ(message::kConfigError, "ERROR W114: Unable to open file 'drelk.ini'");
+}
+
 TEST(Messages, TheUpgradeQuestionsNameTheTemplatesTheyReplace) {
   EXPECT_EQ(
       message::kUpgradeShelfOrderConfirm,
@@ -52,6 +86,7 @@ TEST(Messages, TheUpgradeQuestionsNameTheTemplatesTheyReplace) {
 TEST(Messages, TheLongestFitsAMessageBox) {
   EXPECT_LT(message::kUpgradeShelfOrderConfirm.size(), kMessageText);
   EXPECT_LT(message::kUpgradeOrderConfirm.size(), kMessageText);
+  EXPECT_LT(message::kRestore.size(), kMessageText);
 }
 
 TEST(FillMessage, PutsTheValueInPlaceOfItsMark) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/project_close.h"
+#include "core/scheme.h"
 #include "core/start_up.h"
 #include "persist/config_file.h"
 #include "tests/support/project_text.h"

@@ -10,6 +10,7 @@
 #include "core/card_entry.h"
 #include "core/node_commands.h"
 #include "core/record.h"
+#include "core/scheme.h"
 #include "core/user_variable.h"
 #include "platform/files_wrapper.h"
 #include "tests/support/project_text.h"
