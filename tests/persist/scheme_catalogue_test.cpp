@@ -252,8 +252,8 @@ TEST_F(SchemeCatalogueReadTest, ANumberAboveTheLastSlotIsIgnored) {
   EXPECT_THAT(slotsOf(record("31=a\n32=a\n1000000=a\n")), IsEmpty());
 }
 
-TEST_F(SchemeCatalogueReadTest, ANumberTooBigForThirtyTwoBitsIsIgnored) {
-  EXPECT_THAT(slotsOf(record("2147483648=a\n4294967299=a\n18446744073709551617=a\n")), IsEmpty());
+TEST_F(SchemeCatalogueReadTest, ANumberWrapsAtThirtyTwoBitsAsEveryNumberDoes) {
+  EXPECT_THAT(slotsOf(record("2147483648=a\n4294967299=a\n18446744073709551617=a\n")), ElementsAre(1, 3));
 }
 
 TEST_F(SchemeCatalogueReadTest, ListsTheFilesOfARecordInOrder) {
