@@ -109,10 +109,31 @@ bool refusesNonProduct(const StoreNode& target) {
   return IsShelfOrList(target) || (parent != nullptr && IsShelfOrList(*parent));
 }
 
-// Forgets every reference into the branch of `top`, which is about to leave the tree.
-void forgetBranch(StoreProject& project, const StoreNode& top) {
+bool isInTree(const StoreProject& project, const StoreNode& node) {
+  TreeWalk walk(project.root, true);
+  for (auto step = walk.advance(); step != TreeWalk::Step::Done; step = walk.advance()) {
+    if (step == TreeWalk::Step::Node && walk.node() == &node) return true;
+  }
+  return false;
+}
+
+// Where a non-product goes that is put onto `product`: its parent, if there is one. A parent that is not
+// in the tree, as a refused paste leaves one behind, must not swallow what is.
+StoreNode* holderOf(const StoreProject& project, const StoreNode& product) {
+  StoreNode* parent = LiveParent(product);
+  const bool lost = parent != nullptr && !isInTree(project, *parent) && isInTree(project, product);
+  return lost ? nullptr : parent;
+}
+
+// The branch of `top` is about to leave the tree: forgets the references into it, and marks its nodes as
+// gone. Nodes elsewhere may name one of them as parent, and nothing must be put there.
+void leaveTree(StoreProject& project, StoreNode& top) {
   for (StoreNode** reference : {&project.treeNode, &project.dragNode, &project.dragList}) {
     if (*reference != nullptr && IsInBranch(top, **reference)) *reference = nullptr;
+  }
+  TreeWalk walk(top.child, true);
+  for (auto step = walk.advance(); step != TreeWalk::Step::Done; step = walk.advance()) {
+    if (step == TreeWalk::Step::Node) walk.node()->released = true;
   }
 }
 
@@ -162,7 +183,7 @@ int StoreNodeInsert(Program& program, StoreNode* node, StoreNode* target) {
   if (node == nullptr || target == nullptr) return 0;
   const bool product = IsProduct(*node);
   if (!product && refusesNonProduct(*target)) return 0;
-  if (!product && IsProduct(*target)) target = LiveParent(*target);
+  if (!product && IsProduct(*target)) target = holderOf(program.project, *target);
   if (target == nullptr || IsInBranch(*node, *target)) return 0;
   return IsProduct(*target) ? insertIntoChain(program, *node, *target) : appendChild(program, *node, *target);
 }
@@ -172,7 +193,7 @@ void StoreNodeDelete(Program& program, StoreNode* node) {
   StoreProject& project = program.project;
   const NodePlace place = FindNodePlace(project, *node);
   StoreNode* remaining = remainingNode(project, place, *node);
-  forgetBranch(project, *node);
+  leaveTree(project, *node);
   unlink(project, place, *node);
   program.view.removeTreeItem(*node);
   StoreNodeListFree(project, node);

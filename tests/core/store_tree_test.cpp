@@ -274,6 +274,23 @@ TEST_F(StoreTree, ANodeWhoseParentWasDeletedIsTreatedAsHavingNone) {
   ExpectSoundTree(project);
 }
 
+TEST_F(StoreTree, ANodeWhoseParentWentWithADeletedBranchIsTreatedAsHavingNone) {
+  StoreNode* deep = AddCategory(project, "Deep", toys);
+  novel->parent = deep;
+  remove(toys);
+  EXPECT_EQ(LiveParent(*novel), nullptr);
+  EXPECT_EQ(insert(rack, novel), 0);
+  EXPECT_EQ(TreeText(project), "Home(Books(Novel),Rack(Pen))");
+  ExpectSoundTree(project);
+}
+
+TEST_F(StoreTree, AParentOutsideTheTreeTakesNothingOutOfIt) {
+  novel->parent = fresh(NodeKind::Category, "Floating");
+  EXPECT_EQ(insert(rack, novel), 0);
+  EXPECT_EQ(TreeText(project), whole);
+  ExpectSoundTree(project);
+}
+
 TEST_F(StoreTree, DeletingTellsTheWindow) {
   t.view.calls.clear();
   remove(ball);
