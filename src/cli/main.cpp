@@ -71,6 +71,7 @@ int run(int argc, char** argv) {
   CLI::App app("Builds and handles Varlo PRO store projects without a window.", "varlo-cli");
   Choice choice;
   app.require_subcommand(1);
+  app.allow_windows_style_options(false);  // a path may begin with a slash, on Windows too
   app.add_option("--install", choice.arguments.install,
                  "installation directory that relative names are taken against (default: the current directory)")
       ->check(CLI::ExistingDirectory);

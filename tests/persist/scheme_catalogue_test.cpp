@@ -124,6 +124,11 @@ TEST_F(SchemeCatalogueReadTest, ABreakThatClosesNothingIsIgnored) {
   EXPECT_EQ(catalogue(), "A,B");
 }
 
+TEST_F(SchemeCatalogueReadTest, ASecondBreakOfACategoryIsIgnored) {
+  read("SCHEMA=A\n#CAT\nSCHEMA=B\n#BREAK\n#BREAK\nSCHEMA=C\n#BREAK\nSCHEMA=D\n");
+  EXPECT_EQ(catalogue(), "A(B),C,D");
+}
+
 TEST_F(SchemeCatalogueReadTest, ACategoryMarkBelowASchemeIsIgnored) {
   read("SCHEMA=A\n#CAT\nSCHEMA=B\n#CAT\nSCHEMA=C\n#BREAK\nSCHEMA=D\n");
   EXPECT_EQ(catalogue(), "A(B,C),D");
