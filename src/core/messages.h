@@ -9,6 +9,7 @@ namespace varlo {
 
 inline constexpr std::string_view kProductName = "Varlo PRO";
 inline constexpr std::string_view kProductVersion = "1.07";
+inline constexpr std::string_view kProductRelease = "001";
 // The product's own site; every address on it starts with this.
 inline constexpr std::string_view kProductSite = "https://www.varlo.example";
 
