@@ -2,6 +2,7 @@
 // double blanks included.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -37,6 +38,11 @@ inline constexpr std::string_view kPageWriteError = "ERROR R106: Unable to open 
 
 inline constexpr std::string_view kProjectOpenError = "ERROR S105: Unable to open project file";
 inline constexpr std::string_view kOtherProjectReadError = "S105: Unable to read project file '%s'";
+
+inline constexpr std::string_view kPageCreateError =
+    "ERROR R107: Unable to open HTML output file\r\nNOTE: Usually caused by the Web Directory specified in "
+    "Preferences "
+    "not existing.";
 
 // Making and copying projects.
 inline constexpr std::string_view kInvalidProjectName =
@@ -78,5 +84,8 @@ inline constexpr std::string_view kUpgradeOrderConfirm =
 
 // The message with its first "%s" replaced by `value`.
 [[nodiscard]] std::string FillMessage(std::string_view message, std::string_view value);
+
+// The message with each "%s" replaced by the next of the values; one without a value stays.
+[[nodiscard]] std::string FillMessage(std::string_view message, std::initializer_list<std::string_view> values);
 
 }  // namespace varlo

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "core/messages.h"
 #include "core/program.h"
 #include "core/user_variable.h"
+#include "generator/build_messages.h"
 #include "generator/generator.h"
 
 namespace varlo {
@@ -41,7 +41,7 @@ int CheckUserVariables(Generator& generator) {
   for (const UserVariable* variable = generator.program.project.variables; variable != nullptr;
        variable = variable->next) {
     if (!IsIllegalVariableName(variable->name.view())) continue;
-    LogError(generator.log, FillMessage("error: %s: illegal variable name", variable->name.view()));
+    LogError(generator.log, FillMessage(message::kIllegalVariableName, variable->name.view()));
     ++illegal;
   }
   return illegal;

@@ -19,6 +19,9 @@ enum class SeekFrom { Start, Current, End };
 
 enum class MakeFolderResult { Made, Exists, Failed };
 
+// Why an operation failed, as far as the program tells its user.
+enum class FileError { PathNotFound, AccessDenied, Other };
+
 // One match of a folder search.
 struct FoundFile {
   std::string name;  // without its folder
@@ -58,6 +61,8 @@ struct Files {
   virtual std::string nameOf(std::string_view hostPath) = 0;
   // The machine's own words for the last failure on this object.
   virtual std::string errorText() = 0;
+  // The kind of the last failure on this object.
+  virtual FileError lastError() = 0;
 };
 
 }  // namespace varlo

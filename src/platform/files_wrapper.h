@@ -30,6 +30,7 @@ class FilesWrapper : public Files {
   std::string workingFolder() override { return files_.workingFolder(); }
   std::string nameOf(std::string_view hostPath) override { return files_.nameOf(hostPath); }
   std::string errorText() override { return files_.errorText(); }
+  FileError lastError() override { return files_.lastError(); }
 
  protected:
   Files& files_;

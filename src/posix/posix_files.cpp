@@ -263,4 +263,19 @@ std::string PosixFiles::nameOf(std::string_view hostPath) {
 
 std::string PosixFiles::errorText() { return std::strerror(error_); }
 
+FileError PosixFiles::lastError() {
+  switch (error_) {
+    case ENOENT:
+    case ENOTDIR:
+      return FileError::PathNotFound;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case EISDIR:  // Windows denies the access to a folder that is opened as a file
+      return FileError::AccessDenied;
+    default:
+      return FileError::Other;
+  }
+}
+
 }  // namespace varlo

@@ -29,6 +29,7 @@ class PosixFiles : public Files {
   std::string workingFolder() override;
   std::string nameOf(std::string_view hostPath) override;
   std::string errorText() override;
+  FileError lastError() override;
 
  private:
   // A host path in two parts, and whether something is there under it.

@@ -125,4 +125,9 @@ std::string Win32Files::errorText() {
   return {text.data(), length};
 }
 
+FileError Win32Files::lastError() {
+  if (error_ == ERROR_PATH_NOT_FOUND) return FileError::PathNotFound;
+  return error_ == ERROR_ACCESS_DENIED ? FileError::AccessDenied : FileError::Other;
+}
+
 }  // namespace varlo

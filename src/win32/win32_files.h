@@ -23,6 +23,7 @@ class Win32Files : public Files {
   std::string workingFolder() override;
   std::string nameOf(std::string_view hostPath) override;
   std::string errorText() override;
+  FileError lastError() override;
 
  private:
   bool done(int result);

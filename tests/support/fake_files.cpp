@@ -67,6 +67,11 @@ std::vector<std::string> FakeFiles::names() const {
   return all;
 }
 
+bool FakeFiles::failed(FileError error) {
+  lastError_ = error;
+  return false;
+}
+
 FileHandle FakeFiles::openRead(std::string_view path) {
   const std::string key = keyOf(path);
   if (!files_.contains(key)) return kNoFile;
@@ -119,9 +124,11 @@ void FakeFiles::close(FileHandle file) { open_.erase(file); }
 bool FakeFiles::copy(std::string_view from, std::string_view to, bool overwrite) {
   const std::string source = keyOf(from);
   const std::string target = keyOf(to);
-  if (blocked("copy " + full(from) + " to " + full(to))) return false;
-  if (!files_.contains(source) || source == target || folders_.contains(target)) return false;
-  if (!folderExists(parentOf(target)) || (files_.contains(target) && !overwrite)) return false;
+  if (blocked("copy " + full(from) + " to " + full(to))) return failed(failure);
+  if (folders_.contains(target)) return failed(FileError::AccessDenied);
+  if (!folderExists(parentOf(target))) return failed(FileError::PathNotFound);
+  if (!files_.contains(source) || source == target) return failed(FileError::Other);
+  if (files_.contains(target) && !overwrite) return failed(FileError::Other);
   if (!files_.contains(target)) files_[target].name = full(to);
   files_[target].content = files_[source].content;
   return true;

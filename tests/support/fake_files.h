@@ -30,6 +30,8 @@ class FakeFiles : public Files {
   std::function<bool(const std::string& operation)> shallFail;
   // What errorText gives.
   std::string error = "The fake disk failed.";
+  // The kind of failure that shallFail brings about.
+  FileError failure = FileError::Other;
 
   FileHandle openRead(std::string_view path) override;
   FileHandle create(std::string_view path) override;
@@ -45,6 +47,7 @@ class FakeFiles : public Files {
   std::string workingFolder() override { return "C:\\Varlo"; }
   std::string nameOf(std::string_view hostPath) override { return full(hostPath); }
   std::string errorText() override { return error; }
+  FileError lastError() override { return lastError_; }
 
   // Handles that were opened and not closed yet.
   [[nodiscard]] std::size_t openHandles() const { return open_.size(); }
@@ -62,11 +65,13 @@ class FakeFiles : public Files {
   [[nodiscard]] static std::string keyOf(std::string_view path);
   [[nodiscard]] bool folderExists(const std::string& key) const;
   bool blocked(const std::string& operation);
+  bool failed(FileError error);
 
   std::map<std::string, File> files_;  // by key: full name in lower case
   std::set<std::string> folders_{"c:", "c:\\varlo"};
   std::map<FileHandle, Open> open_;
   FileHandle nextHandle_ = 100;
+  FileError lastError_ = FileError::Other;
 };
 
 }  // namespace varlo::test
