@@ -68,6 +68,14 @@ inline constexpr std::string_view kConfigError = "ERROR W114: Unable to open fil
 inline constexpr std::string_view kCatalogueError = "ERROR W124: Unable to open file 'scheme.ini'";
 inline constexpr std::string_view kNoScheme = "No scheme defined for current store.";
 
+// Building the store.
+inline constexpr std::string_view kFrameLoaderError = "ERROR S102: Unable to open HTML output file";
+inline constexpr std::string_view kIndexFileError = "S108: Unable to write index file '%s'";
+inline constexpr std::string_view kInvalidDirectory =
+    "Invalid Directory Name.  Must not include forward slash characters or commas.";
+inline constexpr std::string_view kPreviewFolderError = "Unable to create directory '%s'";
+inline constexpr std::string_view kChooseWebDirectory = "Select Web Directory";
+
 // Projects of older versions.
 inline constexpr std::string_view kUpgradeShelfOrderConfirm =
     "Your project was saved with an older version of Varlo PRO.\r\n\r\nFor compatibility, Varlo needs to "
