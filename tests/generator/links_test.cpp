@@ -5,6 +5,8 @@
 namespace varlo {
 namespace {
 
+using namespace std::string_view_literals;
+
 TEST(Links, SlashesTurnBothWays) {
   EXPECT_EQ(ForwardSlashes("a\\b/c\\"), "a/b/c/");
   EXPECT_EQ(BackSlashes("a\\b/c/"), "a\\b\\c\\");
@@ -12,12 +14,12 @@ TEST(Links, SlashesTurnBothWays) {
 }
 
 TEST(Links, BaseNameGoesByTheBackSlashFirst) {
-  EXPECT_EQ(BaseName("img\\f.gif"), "f.gif");
-  EXPECT_EQ(BaseName("img/f.gif"), "f.gif");
-  EXPECT_EQ(BaseName("a\\b/c"), "b/c");
-  EXPECT_EQ(BaseName("f.gif"), "f.gif");
-  EXPECT_EQ(BaseName("img\\"), "");
-  EXPECT_EQ(BaseName("<img src=\"x.gif\"></a>"), "a>") << "HTML with a slash loses what stands before its last";
+  EXPECT_EQ(BaseName("img\\f.gif"sv), "f.gif");
+  EXPECT_EQ(BaseName("img/f.gif"sv), "f.gif");
+  EXPECT_EQ(BaseName("a\\b/c"sv), "b/c");
+  EXPECT_EQ(BaseName("f.gif"sv), "f.gif");
+  EXPECT_EQ(BaseName("img\\"sv), "");
+  EXPECT_EQ(BaseName("<img src=\"x.gif\"></a>"sv), "a>") << "HTML with a slash loses what stands before its last";
 }
 
 TEST(Links, AnAbsentBaseNameStaysAbsent) {

@@ -67,8 +67,8 @@ std::vector<std::string> FakeFiles::names() const {
   return all;
 }
 
-bool FakeFiles::failed(FileError error) {
-  lastError_ = error;
+bool FakeFiles::failed(FileError kind) {
+  lastError_ = kind;
   return false;
 }
 
