@@ -11,6 +11,8 @@ struct Program;
 
 // The numbers are fixed: a slot keeps its former text when its file is missing.
 inline constexpr int kSlotTemplate = 0;  // template shown in the template tab
+inline constexpr int kSlotTrolley = 3;   // cart templates, read once a run
+inline constexpr int kSlotRegister = 4;
 inline constexpr int kSlotOrderForm = 6;
 inline constexpr int kSlotConfirmation = 7;
 

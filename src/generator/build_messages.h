@@ -24,4 +24,18 @@ inline constexpr std::string_view kImageCopyError = "error: %s: unable to copy i
 inline constexpr std::string_view kImageLinkReadWarning = "warning: %s: unable to read image link file: '%s'";
 inline constexpr std::string_view kImageLinkCopyError = "error: %s: unable to copy image link file: '%s' to '%s'";
 
+// Cart frames and forms.
+inline constexpr std::string_view kNoRegisterServer =
+    "error: register.html: Varlo Server not defined in preferences!";
+inline constexpr std::string_view kFrameLoaderLine = "error: %s: unable to create frame loader page '%s'";
+inline constexpr std::string_view kNoCards = "warning: accepted credit cards list not defined";
+
+// The build itself.
+inline constexpr std::string_view kReady = "%s v%s.%s - Ready";
+inline constexpr std::string_view kNoDirectory = "critical error: unable to create directory '%s'";
+inline constexpr std::string_view kNoBuildScheme = "critical error: no scheme defined for current store";
+inline constexpr std::string_view kBuildStopped = "Build Stopped";
+inline constexpr std::string_view kSchemeCopyError = "error: scheme: copying schema file '%s'";
+inline constexpr std::string_view kBuildComplete = "Store Build Complete. (%s errors, %s warnings)";
+
 }  // namespace varlo::message

@@ -1,0 +1,32 @@
+#include "generator/output_file.h"
+
+#include "core/messages.h"
+#include "core/open_file.h"
+#include "core/paths.h"
+#include "core/program.h"
+
+namespace varlo {
+
+std::string OutputPath(const StoreProject& project, std::string_view name) {
+  std::string path;
+  if (project.webDir.isNull()) {
+    path.append(project.projectDir.view()).append("\\web");
+  } else {
+    path.append(project.webDir.view());
+  }
+  return path.append("\\").append(name);
+}
+
+int WriteGeneratedFile(Program& program, std::string_view path, std::string_view text) {
+  const std::string target = SingleBackSlashes(path);
+  program.files.remove(target);
+  OpenFile file(program.files, program.files.create(target));
+  if (!file.isOpen()) {
+    ErrorBox(program, message::kPageWriteError);
+    return 0;
+  }
+  program.files.write(file.handle(), text.data(), text.size());
+  return 1;
+}
+
+}  // namespace varlo

@@ -1,0 +1,74 @@
+#include "generator/scheme_colours.h"
+
+#include <array>
+
+#include "core/program.h"
+#include "core/scheme.h"
+#include "generator/build_messages.h"
+#include "generator/generator.h"
+
+namespace varlo {
+namespace {
+
+constexpr std::array<SlotVariable, 6> kCartColours{{
+    {"$BGCOLOR", 0},
+    {"$BG_COLOR", 0},
+    {"$TEXT_COLOR", 23},
+    {"$VLINK_COLOR", 2},
+    {"$ALINK_COLOR", 3},
+    {"$LINK_COLOR", 1},
+}};
+
+constexpr std::array<SlotVariable, 9> kOrderFormColours{{
+    {"$FORMCOLOR", 20},
+    {"$HEADINGTEXTCOLOR", 22},
+    {"$HEADINGCOLOR", 21},
+    {"$BGCOLOR", 13},
+    {"$BG_COLOR", 13},
+    {"$TEXT_COLOR", 14},
+    {"$VLINK_COLOR", 16},
+    {"$ALINK_COLOR", 17},
+    {"$LINK_COLOR", 15},
+}};
+
+constexpr std::array<SlotVariable, 6> kConfirmationColours{{
+    {"$BGCOLOR", 4},
+    {"$BG_COLOR", 4},
+    {"$TEXT_COLOR", 5},
+    {"$VLINK_COLOR", 7},
+    {"$ALINK_COLOR", 8},
+    {"$LINK_COLOR", 6},
+}};
+
+}  // namespace
+
+Value SchemeSlot(const StoreProject& project, std::size_t slot) {
+  return project.projectScheme == nullptr ? Value() : ValueOf(project.projectScheme->slot[slot]);
+}
+
+void ReplaceEvery(Generator& generator, std::string& text, std::string_view key, const Value& value,
+                  std::string_view fileName) {
+  if (ReplaceAll(text, key, value) == Replaced::Done) return;
+  LogError(generator.log, FillMessage(message::kEndlessReplacement, {fileName, key}));
+}
+
+void ApplySlots(Generator& generator, std::string& text, std::span<const SlotVariable> variables,
+                std::string_view fileName) {
+  for (const SlotVariable& variable : variables) {
+    ReplaceEvery(generator, text, variable.key, SchemeSlot(generator.program.project, variable.slot), fileName);
+  }
+}
+
+void ApplyCartColours(Generator& generator, std::string& text, std::string_view fileName) {
+  ApplySlots(generator, text, kCartColours, fileName);
+}
+
+void ApplyOrderFormColours(Generator& generator, std::string& text, std::string_view fileName) {
+  ApplySlots(generator, text, kOrderFormColours, fileName);
+}
+
+void ApplyConfirmationColours(Generator& generator, std::string& text, std::string_view fileName) {
+  ApplySlots(generator, text, kConfirmationColours, fileName);
+}
+
+}  // namespace varlo
