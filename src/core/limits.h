@@ -29,6 +29,9 @@ inline constexpr std::size_t kVariableValue = 4048;
 // Templates that a project remembers; further TPL= lines are dropped.
 inline constexpr std::size_t kTemplateNames = 20;
 
+// A shelf block of this size or more is not taken: the text that was composed last stands in for it.
+inline constexpr std::size_t kShelfBlock = 20000;
+
 // Whole-file texts, and how their memory grows.
 inline constexpr std::size_t kTextSlots = 20;
 inline constexpr std::size_t kSlotStart = 5000;

@@ -32,6 +32,12 @@ bool TextSlot::append(std::string_view line) {
   return true;
 }
 
+bool TextSlot::hold(std::string_view text) {
+  if (!prepare()) return false;
+  rewind();
+  return append(text);
+}
+
 void TextSlot::release() {
   MemFree(memory_);
   memory_ = nullptr;

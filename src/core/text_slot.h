@@ -36,6 +36,8 @@ class TextSlot {
   void rewind() { length_ = 0; }
   // Appends a line and a NUL; false when memory runs out.
   bool append(std::string_view line);
+  // Holds exactly `text`, which has no NUL; false when memory runs out.
+  bool hold(std::string_view text);
   // Gives the memory back.
   void release();
 

@@ -1,0 +1,96 @@
+#include "generator/fill_plan.h"
+
+#include <algorithm>
+
+#include "core/user_variable.h"
+#include "generator/item_steps.h"
+
+namespace varlo {
+namespace {
+
+constexpr std::array<std::string_view, 6> kEarlyKeys{"$STORETITLE",  "$PAGETITLE", "$BODY",
+                                                     "$DESCRIPTION", "$KEYWORDS",  "$UPDATED"};
+
+std::uint16_t timesOf(Repeat repeat) {
+  if (repeat == Repeat::Once) return 1;
+  return repeat == Repeat::Four ? 4 : kEveryTime;
+}
+
+bool isQuickName(std::string_view name) {
+  return name.size() > 1 && name.front() == '$' && name.find_first_of("$<>", 1) == std::string_view::npos;
+}
+
+}  // namespace
+
+FillPlan::FillPlan(const UserVariable* variables) {
+  for (const std::string_view key : kEarlyKeys) {
+    const auto steps = ItemSteps();
+    const auto step = std::find_if(steps.begin(), steps.end(), [key](const ItemStep& s) { return s.key == key; });
+    add(key, FillSource::Early, static_cast<std::size_t>(step - steps.begin()), timesOf(step->repeat));
+  }
+  add("$SHELF", FillSource::Shelf, 0, 1);
+  addVariables(variables);
+  addItemSteps();
+  add("$BACK", FillSource::IndexBack, 0, kEveryTime);
+  add("$INDEX", FillSource::Index, 0, kEveryTime);
+  add("$BACK", FillSource::Back, 0, kEveryTime);
+  add(kLetterPage, FillSource::Letter, 0, 1);
+  add("$PRODUCTS2", FillSource::ProductTwo, 0, kEveryTime);
+  add("$PRODUCT2", FillSource::ProductTwo, 0, kEveryTime);
+  add("$PRODUCTS", FillSource::ProductOne, 0, kEveryTime);
+  add("$PRODUCT", FillSource::ProductOne, 0, kEveryTime);
+  add("$SUBINDEX", FillSource::Subindex, 0, kEveryTime);
+  add("$URL", FillSource::Url, 0, 1);
+}
+
+void FillPlan::add(std::string_view key, FillSource source, std::size_t number, std::uint16_t times, bool tagAware) {
+  if (key.front() == '$' && key.size() > 1) {
+    stepsBySecond_[static_cast<unsigned char>(key[1])].push_back(static_cast<std::uint16_t>(steps_.size()));
+  }
+  longestKey_ = std::max(longestKey_, key.size());
+  steps_.push_back({std::string(key), source, static_cast<std::uint16_t>(number), times, tagAware});
+}
+
+void FillPlan::addVariables(const UserVariable* variables) {
+  for (; variables != nullptr; variables = variables->next) {
+    const std::string_view name = variables->name.view();
+    const std::size_t number = names_.size();
+    names_.emplace_back(name);
+    if (name.empty()) continue;
+    if (!isQuickName(name) || number > kEveryTime) quick_ = false;
+    add(name, FillSource::Variable, number, kVariableRounds);
+  }
+}
+
+void FillPlan::addItemSteps() {
+  std::size_t number = 0;
+  for (const ItemStep& step : ItemSteps()) {
+    if (!step.key.empty()) {
+      add(step.key, FillSource::Item, number, timesOf(step.repeat), step.repeat == Repeat::Tag);
+    }
+    ++number;
+  }
+}
+
+bool FillPlan::fits(const UserVariable* variables) const {
+  for (const std::string& name : names_) {
+    if (variables == nullptr || variables->name.view() != name) return false;
+    variables = variables->next;
+  }
+  return variables == nullptr;
+}
+
+bool FillPlan::isKeyAt(std::string_view text) const {
+  if (text.size() < 2) return false;
+  const auto& candidates = stepsBySecond_[static_cast<unsigned char>(text[1])];
+  return std::any_of(candidates.begin(), candidates.end(),
+                     [&](std::uint16_t step) { return text.starts_with(steps_[step].key); });
+}
+
+bool FillPlan::isFrontOfKey(std::string_view text) const {
+  return std::any_of(steps_.begin(), steps_.end(), [text](const FillStep& step) {
+    return step.key.size() > text.size() && step.key.starts_with(text);
+  });
+}
+
+}  // namespace varlo

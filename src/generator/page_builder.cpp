@@ -1,0 +1,90 @@
+#include "generator/page_builder.h"
+
+#include "core/open_file.h"
+#include "core/program.h"
+#include "core/store_tree.h"
+#include "generator/build_messages.h"
+#include "generator/index_file.h"
+#include "generator/node_images.h"
+#include "generator/page_marks.h"
+#include "generator/plain_page.h"
+#include "generator/substitute_item.h"
+
+namespace varlo {
+
+int PageBuilder::build(StoreNode* node) {
+  if (node == nullptr) return 0;
+  const StoreNode* parent = LiveParent(*node);
+  if (parent != nullptr && IsShelfOrList(*parent)) return 0;
+  tellProgress(*node);
+  IndexFileAddNode(generator_.log, *node);
+  ++generator_.pageCounter;
+  const PageTemplate* source = templates_.read(*node);
+  if (source == nullptr) return 1;
+  const std::string* shelf = takeShelf(*source, *node);
+  fill(*source, *node, shelf);
+  OpenPlusComment(page_);
+  return write(*node);
+}
+
+void PageBuilder::tellProgress(const StoreNode& node) {
+  BuildWindow* window = generator_.log.buildWindow;
+  if (window == nullptr) return;
+  window->stepProgress();
+  window->showLabel(node.fileName.view());
+}
+
+// The shelf block once for each child; null when the page has no block. Deliberate: disabled children are
+// shown as well.
+const std::string* PageBuilder::takeShelf(const PageTemplate& source, StoreNode& node) {
+  if (source.shelf == ShelfState::Missing) {
+    LogError(generator_.log, FillMessage(message::kNoShelfBlock, node.fileName.view()));
+  }
+  if (source.shelf == ShelfState::Taken) {
+    block_ = generator_.scratch = source.block;
+  } else if (source.shelf == ShelfState::TooLong) {
+    block_ = generator_.scratch;
+  } else {
+    return nullptr;
+  }
+  shelf_.clear();
+  for (StoreNode* child = node.child; child != nullptr; child = child->next) {
+    appendItem(source, *child, node);
+    CopyNodeImages(generator_, *child, node);
+  }
+  return &shelf_;
+}
+
+void PageBuilder::appendItem(const PageTemplate& source, StoreNode& item, const StoreNode& page) {
+  const PreparedText* block = source.preparedBlock.get();
+  if (block != nullptr && quick_.appendItem(templates_.plan(), *block, item, page, shelf_)) return;
+  std::string text = block_;
+  SubstituteItem(values_, text, item, page);
+  shelf_ += text;
+}
+
+void PageBuilder::fill(const PageTemplate& source, StoreNode& node, const std::string* shelf) {
+  const PreparedText* text = source.preparedPage.get();
+  if (text != nullptr && quick_.fillPage(templates_.plan(), *text, node, shelf, page_)) return;
+  page_ = source.page;
+  FillPlainPage(values_, page_, node, shelf);
+}
+
+int PageBuilder::write(StoreNode& node) {
+  Files& files = generator_.program.files;
+  path_.assign(generator_.program.project.webDir.view()).append("\\").append(node.fileName.view());
+  OpenFile file(files, files.create(path_));
+  if (!file.isOpen()) {
+    ErrorBox(generator_.program, message::kPageCreateError);
+    return 0;
+  }
+  RemoveShelfMarks(page_);
+  if (!RemoveComments(page_)) {
+    LogError(generator_.log, FillMessage(message::kEndlessComment, node.fileName.view()));
+  }
+  if (!page_.empty()) files.write(file.handle(), page_.data(), page_.size());
+  node.modified = 0;
+  return 1;
+}
+
+}  // namespace varlo

@@ -1,0 +1,41 @@
+#include "generator/plain_page.h"
+
+#include "core/program.h"
+#include "core/store_node.h"
+#include "generator/fill_plan.h"
+#include "generator/item_values.h"
+#include "generator/node_images.h"
+#include "generator/page_index.h"
+#include "generator/page_marks.h"
+#include "generator/substitute_item.h"
+
+namespace varlo {
+namespace {
+
+// What is replaced in front of everything else, so that a body can hold the user's variables.
+void fillEarly(ItemValues& values, std::string& page, const StoreNode& node) {
+  values.take(node);
+  ReplaceFour(page, "$STORETITLE", values.generator().program.project.storeTitle.view());
+  ReplaceFour(page, "$PAGETITLE", node.pageTitle.view());
+  ReplaceFour(page, "$BODY", node.body.view());
+  ReplaceFour(page, "$DESCRIPTION", values.descriptionRule());
+  ReplaceFour(page, "$KEYWORDS", ValueOf(node.metaKeywords));
+  ReplaceFirst(page, "$UPDATED", values.updated());
+}
+
+}  // namespace
+
+void FillPlainPage(ItemValues& values, std::string& page, StoreNode& node, const std::string* shelf) {
+  fillEarly(values, page, node);
+  if (shelf != nullptr) ReplaceFirst(page, kShelfKey, Value(*shelf));
+  SubstituteItem(values, page, node, node);
+  CopyNodeImages(values.generator(), node, node);
+  char letter = 0;
+  const StoreNode* branch = ExpandIndex(values, page, node, letter);
+  if (letter != 0) ReplaceFirst(page, kLetterPage, Value(LetterPage(letter)));
+  BuildProductTables(values, page, node);
+  BuildSubindex(values, page, node, branch);
+  ReplaceFirst(page, "$URL", Value(""));
+}
+
+}  // namespace varlo
