@@ -158,8 +158,8 @@ class Writer {
 
   void describe(std::string_view title, std::string_view make, std::string_view thing, std::string_view stem) {
     line("PAGE=", title, " - ", kShopName);
-    line("IMAGE=img/", stem, ".jpg");
-    line("LINK=img/", stem, "-large.jpg");
+    line("IMAGE=", project_.pictures, stem, ".jpg");
+    line("LINK=", project_.pictures, stem, "-large.jpg");
     line("KEY=", make, ", ", thing, ", ", draw_.of(kThings), ", ", draw_.of(kColours), ", house, garden, gifts");
     line("DESC=", prose(80, " "));
     line("BODY=", prose(200 + draw_.below(140), draw_.below(2) == 0 ? " " : "@@@"));

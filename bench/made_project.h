@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace varlo::bench {
 
@@ -20,6 +21,8 @@ inline constexpr std::int64_t kMadeProjectTime = 1044072306;
 struct MadeProject {
   Flavour flavour = Flavour::Full;
   std::size_t products = 0;
+  // In front of the names of pictures: below the project, or elsewhere.
+  std::string_view pictures = "img/";
 
   // How many nodes the project has, its categories and departments included.
   [[nodiscard]] std::size_t nodes() const;

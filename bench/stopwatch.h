@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <limits>
 
+#include <sys/resource.h>
 #include <time.h>
 
 namespace varlo::bench {
@@ -14,6 +15,16 @@ inline double ThreadSeconds() {
   timespec time{};
   ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
   return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+// Processor time of the processes that this one has started and waited for, in seconds.
+inline double ChildSeconds() {
+  rusage usage{};
+  ::getrusage(RUSAGE_CHILDREN, &usage);
+  const auto seconds = [](const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+  };
+  return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
 // Seconds that `run` takes.

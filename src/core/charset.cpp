@@ -62,8 +62,10 @@ std::size_t decode(std::string_view text, char16_t& code) {
 }  // namespace
 
 std::string Utf8FromBytes(std::string_view bytes) {
-  std::string text;
-  for (const char byte : bytes) appendUtf8(text, codePoint(byte));
+  const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+  const auto other = std::find_if_not(bytes.begin(), bytes.end(), isAscii);
+  std::string text(bytes.begin(), other);
+  for (const char byte : bytes.substr(text.size())) appendUtf8(text, codePoint(byte));
   return text;
 }
 

@@ -52,10 +52,8 @@ void FillPlan::add(std::string_view key, FillSource source, std::size_t number, 
 }
 
 void FillPlan::addVariables(const UserVariable* variables) {
-  for (; variables != nullptr; variables = variables->next) {
+  for (std::size_t number = 0; variables != nullptr; variables = variables->next, ++number) {
     const std::string_view name = variables->name.view();
-    const std::size_t number = names_.size();
-    names_.emplace_back(name);
     if (name.empty()) continue;
     if (!isQuickName(name) || number > kEveryTime) quick_ = false;
     add(name, FillSource::Variable, number, kVariableRounds);
@@ -70,14 +68,6 @@ void FillPlan::addItemSteps() {
     }
     ++number;
   }
-}
-
-bool FillPlan::fits(const UserVariable* variables) const {
-  for (const std::string& name : names_) {
-    if (variables == nullptr || variables->name.view() != name) return false;
-    variables = variables->next;
-  }
-  return variables == nullptr;
 }
 
 bool FillPlan::isKeyAt(std::string_view text) const {

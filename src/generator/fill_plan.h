@@ -46,9 +46,6 @@ class FillPlan {
   // The plan for these variables of a project.
   explicit FillPlan(const UserVariable* variables);
 
-  // Whether the variables still have the names for which the plan was made.
-  [[nodiscard]] bool fits(const UserVariable* variables) const;
-
   // Whether texts can be filled the quick way at all: each variable's name must begin with "$", as every
   // other key does, and hold neither a second "$" nor an angle bracket.
   [[nodiscard]] bool isQuick() const { return quick_; }
@@ -67,7 +64,6 @@ class FillPlan {
   void addItemSteps();
 
   std::vector<FillStep> steps_;
-  std::vector<std::string> names_;                             // of the variables
   std::array<std::vector<std::uint16_t>, 256> stepsBySecond_;  // steps by the byte behind the "$"
   std::size_t longestKey_ = 0;
   bool quick_ = true;

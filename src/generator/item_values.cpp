@@ -97,6 +97,7 @@ Value ItemValues::removeLink() {
 }
 
 Value ItemValues::addLink() {
+  if (!addLink_.empty()) return addLink_;
   const StoreNode* parent = LiveParent(*item_);
   // Deliberate: only a shelf stands in for its items; an item on a list names its own file.
   const bool onShelf = parent != nullptr && parent->kind == NodeKind::Shelf;

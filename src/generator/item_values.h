@@ -31,6 +31,7 @@ class ItemValues {
   void take(const StoreNode& item) {
     item_ = &item;
     updatedIsTaken_ = false;
+    addLink_.clear();
   }
 
   [[nodiscard]] Generator& generator() const { return generator_; }

@@ -1,10 +1,10 @@
 #include "generator/page_marks.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "core/text_edit.h"
 #include "core/text_search.h"
-#include "generator/replace.h"
 
 namespace varlo {
 namespace {
@@ -13,6 +13,8 @@ constexpr std::string_view kShelfOpen = "<SHELF>";
 constexpr std::string_view kShelfClose = "</SHELF>";
 constexpr std::string_view kCommentOpen = "<!--";
 constexpr std::string_view kCommentClose = "-->";
+constexpr std::string_view kPlusOpen = "<!--+";
+constexpr std::string_view kPlusClose = "+-->";
 constexpr std::size_t kNone = std::string_view::npos;
 
 // Whether an "F>" stands somewhere, in any case. Most pages hold none, and this tells it for many bytes at
@@ -33,10 +35,10 @@ void removeNoCase(std::string& text, std::string_view mark) {
   }
 }
 
-// The "!" of a comment's start is rarer than its "<".
-std::size_t findComment(std::string_view text, std::size_t from) {
+// Where a comment starts, with "<!--" or the longer `mark`. The "!" is rarer than the "<".
+std::size_t findComment(std::string_view text, std::size_t from, std::string_view mark = kCommentOpen) {
   for (std::size_t at = text.find('!', from); at != kNone; at = text.find('!', at + 1)) {
-    if (at > from && text.substr(at - 1).starts_with(kCommentOpen)) return at - 1;
+    if (at > from && text.substr(at - 1).starts_with(mark)) return at - 1;
   }
   return kNone;
 }
@@ -52,10 +54,10 @@ ShelfBlock FindShelfBlock(std::string_view text) {
 }
 
 void OpenPlusComment(std::string& page) {
-  const std::size_t open = findComment(page, 0);
-  if (open != kNone) ReplaceFirst(page, "<!--+", "", open);
-  const std::size_t plus = page.find('+');
-  if (plus != kNone) ReplaceFirst(page, "+-->", "", plus);
+  const std::size_t open = findComment(page, 0, kPlusOpen);
+  if (open != kNone) page.erase(open, kPlusOpen.size());
+  const std::size_t close = page.find(kPlusClose);
+  if (close != kNone) page.erase(close, kPlusClose.size());
 }
 
 void RemoveShelfMarks(std::string& page) {
@@ -65,22 +67,18 @@ void RemoveShelfMarks(std::string& page) {
 }
 
 bool RemoveComments(std::string& page) {
-  std::size_t open = findComment(page, 0);
-  if (open == kNone) return true;
-  std::string kept(page, 0, open);
-  std::size_t from = open;
-  while (open != kNone) {
+  std::size_t kept = findComment(page, 0);
+  for (std::size_t open = kept; open != kNone;) {
     const std::size_t close = page.find(kCommentClose, open);
-    if (close == kNone) {
-      kept.append(page, open);
-      page = std::move(kept);
-      return false;
-    }
-    from = close + kCommentClose.size();
-    open = findComment(page, from);
-    kept.append(page, from, open == kNone ? kNone : open - from);
+    const bool ends = close != kNone;
+    const std::size_t from = ends ? close + kCommentClose.size() : open;
+    open = ends ? findComment(page, from) : kNone;
+    const std::size_t to = std::min(open, page.size());
+    std::memmove(page.data() + kept, page.data() + from, to - from);
+    kept += to - from;
+    if (open == kNone) page.resize(kept);
+    if (!ends) return false;
   }
-  page = std::move(kept);
   return true;
 }
 

@@ -31,7 +31,6 @@ void QuickPage::begin(const FillPlan& plan, const PreparedText& text, const Stor
 
 bool QuickPage::fillPage(const FillPlan& plan, const PreparedText& text, StoreNode& node, const std::string* shelf,
                          std::string& page) {
-  page.clear();
   if (!text.quick || values_.generator().program.project.projectScheme == nullptr) return false;
   begin(plan, text, node);
   for (const Use& use : text.uses) {
@@ -43,7 +42,7 @@ bool QuickPage::fillPage(const FillPlan& plan, const PreparedText& text, StoreNo
     indexParts_ = {index.substr(0, place_), {}, {}};
     if (place_ < index.size()) indexParts_ = {indexParts_[0], subindex_, index.substr(place_ + kSubindexKey.size())};
   }
-  if (!assembly_.finish(page)) return false;
+  if (!assembly_.finish(page, 0)) return false;
   report(node, node);
   if (!tableOne_.empty()) {
     values_.generator().scratch = tableOne_;
@@ -65,7 +64,7 @@ bool QuickPage::appendItem(const FillPlan& plan, const PreparedText& block, cons
     if (step.source == FillSource::Item && !takeItemStep(use, step.number)) return false;
   }
   const std::size_t before = result.size();
-  if (!assembly_.finish(result)) {
+  if (!assembly_.finish(result, before)) {
     result.resize(before);
     return false;
   }

@@ -18,6 +18,9 @@ constexpr std::size_t kReadSize = 64 * 1024;
 
 }  // namespace
 
+TemplateSource::TemplateSource(Generator& generator)
+    : generator_(generator), plan_(generator.program.project.variables) {}
+
 std::string TemplateSource::pathOf(const StoreNode& node) const {
   const StoreProject& project = generator_.program.project;
   if (generator_.useSetTemplates) return SetTemplatePath(project, node);
@@ -31,13 +34,6 @@ void TemplateSource::remember(std::string_view path) {
   if (std::any_of(names.begin(), names.end(), [path](const Text& name) { return name.view() == path; })) return;
   std::move_backward(names.begin(), names.end() - 1, names.end());
   names.front().assign(path);
-}
-
-void TemplateSource::renewPlan() {
-  const UserVariable* variables = generator_.program.project.variables;
-  if (plan_ != nullptr && plan_->fits(variables)) return;
-  plan_ = std::make_unique<FillPlan>(variables);
-  kept_.clear();
 }
 
 // Reads the bytes of a file at once, into the buffer; false when it can't be opened.
@@ -57,7 +53,6 @@ bool TemplateSource::readRaw(std::string_view path, std::string_view& raw) {
 }
 
 const PageTemplate* TemplateSource::read(const StoreNode& node) {
-  renewPlan();
   const std::string path = pathOf(node);
   const bool isShelf = IsShelfOrList(node);
   TextSlot& slot = generator_.program.slots[kSlotTemplate];
@@ -110,9 +105,9 @@ void TemplateSource::prepare(Kept& kept) const {
       page.page.replace(found.begin, found.end - found.begin, kShelfKey);
     }
   }
-  if (!plan_->isQuick()) return;
-  page.preparedPage = std::make_unique<PreparedText>(*plan_, page.page);
-  if (page.shelf == ShelfState::Taken) page.preparedBlock = std::make_unique<PreparedText>(*plan_, page.block);
+  if (!plan_.isQuick()) return;
+  page.preparedPage = std::make_unique<PreparedText>(plan_, page.page);
+  if (page.shelf == ShelfState::Taken) page.preparedBlock = std::make_unique<PreparedText>(plan_, page.block);
 }
 
 }  // namespace varlo

@@ -1,5 +1,5 @@
 // TemplateSource: the templates of a run of pages. Each is read anew for every page, and prepared for
-// filling once for each text that it turns out to hold.
+// filling once for each text that it turns out to hold. The project's variables do not change meanwhile.
 #pragma once
 
 #include <list>
@@ -33,14 +33,14 @@ struct PageTemplate {
 
 class TemplateSource {
  public:
-  explicit TemplateSource(Generator& generator) : generator_(generator) {}
+  explicit TemplateSource(Generator& generator);
 
   // Reads the template of a node into the slot of the template tab, and remembers its name. Null when the
   // slot has no memory. The template stays valid until the next but one read.
   const PageTemplate* read(const StoreNode& node);
 
   // The plan that the templates are prepared for.
-  [[nodiscard]] const FillPlan& plan() const { return *plan_; }
+  [[nodiscard]] const FillPlan& plan() const { return plan_; }
 
  private:
   struct Kept {
@@ -51,7 +51,6 @@ class TemplateSource {
     PageTemplate page;
   };
 
-  void renewPlan();
   [[nodiscard]] std::string pathOf(const StoreNode& node) const;
   void remember(std::string_view path);
   [[nodiscard]] bool readRaw(std::string_view path, std::string_view& raw);
@@ -59,7 +58,7 @@ class TemplateSource {
   void prepare(Kept& kept) const;
 
   Generator& generator_;
-  std::unique_ptr<FillPlan> plan_;
+  FillPlan plan_;
   std::list<Kept> kept_;  // the one used last in front
   std::string buffer_;    // for the bytes of a file; never shrinks
 };

@@ -7,9 +7,20 @@ namespace {
 
 constexpr std::size_t kNone = std::string_view::npos;
 
+bool isAngle(char c) { return c == '<' || c == '>'; }
+
 // What a value must not hold where a tag around it is looked for: it would change the tag, or be lost with
 // it before anyone has looked whether it holds a key.
-bool disturbsTags(std::string_view value) { return value.find_first_of("<>$") != kNone; }
+bool disturbsTags(std::string_view value) {
+  return std::any_of(value.begin(), value.end(), [](char c) { return isAngle(c) || c == '$'; });
+}
+
+// The last angle bracket; it is never far in front of a place.
+std::size_t findLastAngle(std::string_view text) {
+  std::size_t at = text.size();
+  while (at > 0 && !isAngle(text[at - 1])) --at;
+  return at == 0 ? kNone : at - 1;
+}
 
 // Where kLetterPage begins at or behind `at`. Its "x" is rarer than its other letters.
 std::size_t findLetterPage(std::string_view text, std::size_t at) {
@@ -65,7 +76,7 @@ bool TextAssembly::findAngleBefore(std::size_t segment, Position& angle) const {
   while (segment-- > 0) {
     const Segment& s = segments_[segment];
     const std::string_view text = source(s.begin, s.end);
-    const std::size_t found = text.find_last_of("<>");
+    const std::size_t found = findLastAngle(text);
     if (found != kNone) {
       angle = {segment, s.begin + static_cast<std::uint32_t>(found), text[found] == '>'};
       return true;
@@ -150,16 +161,25 @@ bool TextAssembly::holdsOnlyKnownKeys(std::string_view result, std::size_t from)
   return true;
 }
 
-bool TextAssembly::finish(std::string& result) {
-  const std::size_t from = result.size();
+std::size_t TextAssembly::size() const {
+  std::size_t size = 0;
   for (const Segment& segment : segments_) {
-    if (segment.parts == nullptr) {
-      result.append(segment.value);
-    } else {
-      for (const std::string_view part : *segment.parts) result.append(part);
-    }
-    if (segment.open) left_.push_back(result.size());
-    result.append(prepared_->text, segment.begin, segment.end - segment.begin);
+    size += segment.value.size() + segment.end - segment.begin;
+    if (segment.parts == nullptr) continue;
+    for (const std::string_view part : *segment.parts) size += part.size();
+  }
+  return size;
+}
+
+bool TextAssembly::finish(std::string& result, std::size_t from) {
+  result.resize(from + size());
+  char* at = result.data() + from;
+  const auto put = [&at](std::string_view piece) { at = std::copy(piece.begin(), piece.end(), at); };
+  for (const Segment& segment : segments_) {
+    put(segment.value);
+    if (segment.parts != nullptr) std::for_each(segment.parts->begin(), segment.parts->end(), put);
+    if (segment.open) left_.push_back(static_cast<std::size_t>(at - result.data()));
+    put(source(segment.begin, segment.end));
   }
   return holdsOnlyKnownKeys(result, from);
 }

@@ -38,14 +38,14 @@ class TextAssembly {
   // be taken one by one.
   [[nodiscard]] bool removeTagAware(const PreparedText::Use& use);
 
-  // Appends the filled text to `result`. False, and `result` is to be thrown away, when the steps have to
-  // be taken one by one.
-  [[nodiscard]] bool finish(std::string& result);
+  // Puts the filled text into `result`, over what stands there from `from` on. False when the steps have to
+  // be taken one by one, and that text is not what it should be.
+  [[nodiscard]] bool finish(std::string& result, std::size_t from);
 
  private:
   struct Segment {
     std::string_view value;        // in front of the rest
-    const Parts* parts = nullptr;  // instead of the value
+    const Parts* parts = nullptr;  // behind the value
     std::uint32_t begin = 0;       // of what is left of the segment's own text
     std::uint32_t end = 0;
     bool open = false;  // its place still stands there
@@ -58,7 +58,7 @@ class TextAssembly {
   };
 
   [[nodiscard]] std::string_view source(std::uint32_t from, std::uint32_t to) const {
-    return std::string_view(prepared_->text).substr(from, to - from);
+    return {prepared_->text.data() + from, to - from};
   }
   template <typename Put>
   void fillEach(const PreparedText::Use& use, Put put);
@@ -66,6 +66,7 @@ class TextAssembly {
   [[nodiscard]] bool findTagEnd(std::size_t segment, std::uint32_t keySize, Position& end) const;
   [[nodiscard]] bool cut(const Position& from, const Position& to);
   [[nodiscard]] bool holdsOnlyKnownKeys(std::string_view result, std::size_t from) const;
+  [[nodiscard]] std::size_t size() const;
   [[nodiscard]] bool isKnown(std::size_t at, std::size_t& next) const;
 
   const FillPlan* plan_ = nullptr;

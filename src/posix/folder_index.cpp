@@ -23,7 +23,7 @@ bool same(const timespec& left, const timespec& right) {
 
 bool FolderIndex::changeTime(const std::string& folder, timespec& time) {
   struct stat status {};
-  if (::stat(folder.c_str(), &status) != 0) return false;
+  if (::stat(folder.c_str(), &status) != 0 || !S_ISDIR(status.st_mode)) return false;
   time = status.st_mtim;
   return true;
 }
@@ -39,8 +39,14 @@ void FolderIndex::readNames(const std::string& folder, Folder& entry) {
 }
 
 std::string FolderIndex::find(const std::string& folder, std::string_view name) {
+  std::string found;
+  return lookUp(folder, name, found) ? found : std::string();
+}
+
+bool FolderIndex::lookUp(const std::string& folder, std::string_view name, std::string& result) {
   timespec now{};
-  if (!changeTime(folder, now)) return {};
+  result.clear();
+  if (!changeTime(folder, now)) return false;
   const auto [at, isNew] = folders_.try_emplace(folder);
   Folder& entry = at->second;
   if (isNew || !same(entry.changed, now)) {
@@ -48,7 +54,8 @@ std::string FolderIndex::find(const std::string& folder, std::string_view name) 
     readNames(folder, entry);
   }
   const auto found = entry.names.find(folded(name));
-  return found == entry.names.end() ? std::string() : found->second;
+  if (found != entry.names.end()) result = found->second;
+  return true;
 }
 
 // The index of a folder that is known, and brought up to its present change time: the change was ours.

@@ -15,6 +15,8 @@ class FolderIndex {
   // character set) means; empty when there is none. The folder is read once and again after others
   // changed it.
   [[nodiscard]] std::string find(const std::string& folder, std::string_view name);
+  // The same, with the name in `found`; false when there is no such folder.
+  [[nodiscard]] bool lookUp(const std::string& folder, std::string_view name, std::string& found);
 
   // Tells that this program has made `hostName` in the folder, or removed it.
   void added(const std::string& folder, std::string_view hostName);

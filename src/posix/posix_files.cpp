@@ -90,31 +90,36 @@ std::string PosixFiles::findFolder(const std::string& path) {
 PosixFiles::Place PosixFiles::find(std::string_view path) {
   std::string host = hostPath(path);
   while (host.size() > 1 && host.back() == '/') host.pop_back();
+  if (::access(host.c_str(), F_OK) != 0) return findOther(std::move(host));
+  const std::size_t slash = host.rfind('/');
+  return {.folder = host.substr(0, slash), .name = host.substr(slash + 1), .exists = true};
+}
+
+// The place of a host path under which nothing is there as it is spelt.
+PosixFiles::Place PosixFiles::findOther(std::string host) {
+  while (host.size() > 1 && host.back() == '/') host.pop_back();
   const std::size_t slash = host.rfind('/');
   Place place{.folder = host.substr(0, slash), .name = host.substr(slash + 1)};
-  if (::access(host.c_str(), F_OK) == 0) {
-    place.exists = true;
-    return place;
+  const std::string wanted = BytesFromUtf8(place.name);
+  std::string name;
+  if (!index_.lookUp(slash == 0 ? "/" : place.folder, wanted, name)) {
+    const std::string folder = findFolder(place.folder);
+    if (folder.empty()) return place;
+    place.folder = folder;
+    name = index_.find(folder, wanted);
   }
-  place.folder = findFolder(place.folder);
-  if (place.folder.empty() && slash != 0) {
-    place.folder = host.substr(0, slash);
-    return place;
-  }
-  const std::string name = index_.find(place.folder.empty() ? "/" : place.folder, BytesFromUtf8(place.name));
-  if (name.empty()) return place;
-  place.name = name;
-  place.exists = true;
+  place.exists = !name.empty();
+  if (place.exists) place.name = name;
   return place;
 }
 
-FileHandle PosixFiles::opened(int descriptor) {
+FileHandle PosixFiles::opened(int descriptor, bool mayBeFolder) {
   if (descriptor < 0) {
     error_ = errno;
     return kNoFile;
   }
   struct stat status {};
-  if (::fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode)) {
+  if (mayBeFolder && ::fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode)) {
     ::close(descriptor);
     error_ = EISDIR;
     return kNoFile;
@@ -123,23 +128,25 @@ FileHandle PosixFiles::opened(int descriptor) {
 }
 
 FileHandle PosixFiles::openRead(std::string_view path) {
-  int descriptor = retryOpen(hostPath(path), O_RDONLY);
+  std::string host = hostPath(path);
+  int descriptor = retryOpen(host, O_RDONLY);
   if (descriptor < 0 && errno == ENOENT) {
-    const Place place = find(path);
+    const Place place = findOther(std::move(host));
     errno = ENOENT;
     if (place.exists) descriptor = retryOpen(place.path(), O_RDONLY);
   }
-  return opened(descriptor);
+  return opened(descriptor, true);
 }
 
 FileHandle PosixFiles::create(std::string_view path) {
-  int descriptor = retryOpen(hostPath(path), O_WRONLY | O_TRUNC);
+  std::string host = hostPath(path);
+  int descriptor = retryOpen(host, O_WRONLY | O_TRUNC);
   if (descriptor < 0 && errno == ENOENT) {
-    const Place place = find(path);
+    const Place place = findOther(std::move(host));
     descriptor = retryOpen(place.path(), O_WRONLY | O_CREAT | O_TRUNC);
     if (descriptor >= 0 && !place.exists) index_.added(place.folder, place.name);
   }
-  return opened(descriptor);
+  return opened(descriptor, false);  // the system lets nobody write to a folder
 }
 
 std::size_t PosixFiles::read(FileHandle file, void* data, std::size_t size) {

@@ -41,8 +41,9 @@ class PosixFiles : public Files {
   };
   [[nodiscard]] std::string hostPath(std::string_view path) const;
   Place find(std::string_view path);
+  Place findOther(std::string host);
   std::string findFolder(const std::string& path);
-  FileHandle opened(int descriptor);
+  FileHandle opened(int descriptor, bool mayBeFolder);
   bool failed(int error);
 
   std::string folder_;
