@@ -59,10 +59,11 @@ std::size_t decode(std::string_view text, char16_t& code) {
   return length;
 }
 
+bool isAscii(char byte) { return static_cast<unsigned char>(byte) < 0x80; }
+
 }  // namespace
 
 std::string Utf8FromBytes(std::string_view bytes) {
-  const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
   const auto other = std::find_if_not(bytes.begin(), bytes.end(), isAscii);
   std::string text(bytes.begin(), other);
   for (const char byte : bytes.substr(text.size())) appendUtf8(text, codePoint(byte));
@@ -70,7 +71,8 @@ std::string Utf8FromBytes(std::string_view bytes) {
 }
 
 std::string BytesFromUtf8(std::string_view utf8) {
-  std::string bytes;
+  std::string bytes(utf8.begin(), std::find_if_not(utf8.begin(), utf8.end(), isAscii));
+  utf8.remove_prefix(bytes.size());
   while (!utf8.empty()) {
     char16_t code = 0;
     char byte = utf8[0];

@@ -23,6 +23,12 @@ void UserVariableListFree(StoreProject& project, UserVariable* head) {
   });
 }
 
+const UserVariable* UserVariableAt(const StoreProject& project, std::size_t number) {
+  const UserVariable* variable = project.variables;
+  for (; number > 0; --number) variable = variable->next;
+  return variable;
+}
+
 void UserVariableAppend(StoreProject& project, UserVariable* variable) {
   (project.variablesTail == nullptr ? project.variables : project.variablesTail->next) = variable;
   project.variablesTail = variable;

@@ -1,6 +1,7 @@
 // UserVariable: a "$" variable of the project, in a singly linked list.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "core/text.h"
@@ -27,6 +28,9 @@ UserVariable* UserVariableCopy(UserVariable* destination, const UserVariable& so
 // Releases the list from `head`, and clears each of the project's three references to variables that
 // names a released one.
 void UserVariableListFree(StoreProject& project, UserVariable* head);
+
+// The project's variable number `number`, which it has, counted from 0.
+[[nodiscard]] const UserVariable* UserVariableAt(const StoreProject& project, std::size_t number);
 
 // Puts `variable` at the tail of the project's list.
 void UserVariableAppend(StoreProject& project, UserVariable* variable);

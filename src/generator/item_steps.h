@@ -33,6 +33,7 @@ struct ItemStep {
   Repeat repeat = Repeat::All;
   Value (*value)(ItemValues&) = nullptr;
   StepRole role = StepRole::Plain;
+  bool sameForAll = false;  // the value is that of the store, the same for every item
 };
 
 inline constexpr std::size_t kItemSteps = 67;

@@ -22,9 +22,9 @@ int PageBuilder::build(StoreNode* node) {
   const PageTemplate* source = templates_.read(*node);
   if (source == nullptr) return 1;
   const std::string* shelf = takeShelf(*source, *node);
-  fill(*source, *node, shelf);
-  OpenPlusComment(page_);
-  return write(*node);
+  const TextSigns signs = fill(*source, *node, shelf) ? quick_.signs() : TextSigns::all();
+  if (signs.plusComment) OpenPlusComment(page_);
+  return write(*node, signs);
 }
 
 void PageBuilder::tellProgress(const StoreNode& node) {
@@ -63,14 +63,16 @@ void PageBuilder::appendItem(const PageTemplate& source, StoreNode& item, const 
   shelf_ += text;
 }
 
-void PageBuilder::fill(const PageTemplate& source, StoreNode& node, const std::string* shelf) {
+// Fills the page; gives whether it went the quick way.
+bool PageBuilder::fill(const PageTemplate& source, StoreNode& node, const std::string* shelf) {
   const PreparedText* text = source.preparedPage.get();
-  if (text != nullptr && quick_.fillPage(templates_.plan(), *text, node, shelf, page_)) return;
+  if (text != nullptr && quick_.fillPage(templates_.plan(), *text, node, shelf, page_)) return true;
   page_ = source.page;
   FillPlainPage(values_, page_, node, shelf);
+  return false;
 }
 
-int PageBuilder::write(StoreNode& node) {
+int PageBuilder::write(StoreNode& node, const TextSigns& signs) {
   Files& files = generator_.program.files;
   path_.assign(generator_.program.project.webDir.view()).append("\\").append(node.fileName.view());
   OpenFile file(files, files.create(path_));
@@ -78,8 +80,8 @@ int PageBuilder::write(StoreNode& node) {
     ErrorBox(generator_.program, message::kPageCreateError);
     return 0;
   }
-  RemoveShelfMarks(page_);
-  if (!RemoveComments(page_)) {
+  if (signs.shelfMark) RemoveShelfMarks(page_);
+  if (signs.comment && !RemoveComments(page_)) {
     LogError(generator_.log, FillMessage(message::kEndlessComment, node.fileName.view()));
   }
   if (!page_.empty()) files.write(file.handle(), page_.data(), page_.size());

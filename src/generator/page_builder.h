@@ -13,7 +13,7 @@ namespace varlo {
 class PageBuilder {
  public:
   explicit PageBuilder(Generator& generator)
-      : generator_(generator), values_(generator), quick_(values_), templates_(generator) {}
+      : generator_(generator), values_(generator), quick_(values_), templates_(values_) {}
 
   // Makes the page of a node, as BuildPage does.
   int build(StoreNode* node);
@@ -22,8 +22,8 @@ class PageBuilder {
   void tellProgress(const StoreNode& node);
   [[nodiscard]] const std::string* takeShelf(const PageTemplate& source, StoreNode& node);
   void appendItem(const PageTemplate& source, StoreNode& item, const StoreNode& page);
-  void fill(const PageTemplate& source, StoreNode& node, const std::string* shelf);
-  int write(StoreNode& node);
+  bool fill(const PageTemplate& source, StoreNode& node, const std::string* shelf);
+  int write(StoreNode& node, const TextSigns& signs);
 
   Generator& generator_;
   ItemValues values_;

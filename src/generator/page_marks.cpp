@@ -11,21 +11,8 @@ namespace {
 
 constexpr std::string_view kShelfOpen = "<SHELF>";
 constexpr std::string_view kShelfClose = "</SHELF>";
-constexpr std::string_view kCommentOpen = "<!--";
 constexpr std::string_view kCommentClose = "-->";
-constexpr std::string_view kPlusOpen = "<!--+";
-constexpr std::string_view kPlusClose = "+-->";
 constexpr std::size_t kNone = std::string_view::npos;
-
-// Whether an "F>" stands somewhere, in any case. Most pages hold none, and this tells it for many bytes at
-// a time.
-bool mayHoldShelfMark(std::string_view text) {
-  unsigned char hit = 0;
-  for (std::size_t i = 0; i + 1 < text.size(); ++i) {
-    hit = static_cast<unsigned char>(hit | (((text[i] | 0x20) == 'f') & (text[i + 1] == '>')));
-  }
-  return hit != 0;
-}
 
 void removeNoCase(std::string& text, std::string_view mark) {
   std::size_t at = 0;
@@ -61,7 +48,6 @@ void OpenPlusComment(std::string& page) {
 }
 
 void RemoveShelfMarks(std::string& page) {
-  if (!mayHoldShelfMark(page)) return;
   removeNoCase(page, kShelfOpen);
   removeNoCase(page, kShelfClose);
 }

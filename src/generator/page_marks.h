@@ -9,6 +9,9 @@
 namespace varlo {
 
 inline constexpr std::string_view kShelfKey = "$SHELF";
+inline constexpr std::string_view kCommentOpen = "<!--";
+inline constexpr std::string_view kPlusOpen = "<!--+";
+inline constexpr std::string_view kPlusClose = "+-->";
 
 // Where the first shelf block of a template stands.
 struct ShelfBlock {

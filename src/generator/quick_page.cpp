@@ -8,15 +8,6 @@
 #include "generator/substitute_item.h"
 
 namespace varlo {
-namespace {
-
-const UserVariable* variableAt(const StoreProject& project, std::size_t number) {
-  const UserVariable* variable = project.variables;
-  for (; number > 0; --number) variable = variable->next;
-  return variable;
-}
-
-}  // namespace
 
 void QuickPage::begin(const FillPlan& plan, const PreparedText& text, const StoreNode& item) {
   plan_ = &plan;
@@ -148,7 +139,7 @@ bool QuickPage::takeItemStep(const Use& use, std::size_t number) {
 }
 
 bool QuickPage::takeVariable(const Use& use, std::size_t number) {
-  fillIfThere(use, ValueOf(variableAt(values_.generator().program.project, number)->value));
+  fillIfThere(use, ValueOf(UserVariableAt(values_.generator().program.project, number)->value));
   return true;
 }
 

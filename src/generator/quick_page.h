@@ -22,6 +22,9 @@ class QuickPage {
   [[nodiscard]] bool fillPage(const FillPlan& plan, const PreparedText& text, StoreNode& node,
                               const std::string* shelf, std::string& page);
 
+  // What the page that was filled last holds.
+  [[nodiscard]] const TextSigns& signs() const { return assembly_.signs(); }
+
   // Appends a shelf block with the values of `item` to `result`. False, and `result` is as before, when
   // the steps have to be taken one by one.
   [[nodiscard]] bool appendItem(const FillPlan& plan, const PreparedText& block, const StoreNode& item,

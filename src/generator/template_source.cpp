@@ -6,7 +6,9 @@
 #include "core/open_file.h"
 #include "core/program.h"
 #include "generator/generator.h"
+#include "generator/item_values.h"
 #include "generator/page_marks.h"
+#include "generator/store_values.h"
 #include "persist/project_paths.h"
 #include "persist/template_set.h"
 
@@ -18,8 +20,8 @@ constexpr std::size_t kReadSize = 64 * 1024;
 
 }  // namespace
 
-TemplateSource::TemplateSource(Generator& generator)
-    : generator_(generator), plan_(generator.program.project.variables) {}
+TemplateSource::TemplateSource(ItemValues& values)
+    : values_(values), generator_(values.generator()), plan_(generator_.program.project.variables) {}
 
 std::string TemplateSource::pathOf(const StoreNode& node) const {
   const StoreProject& project = generator_.program.project;
@@ -46,7 +48,7 @@ bool TemplateSource::readRaw(std::string_view path, std::string_view& raw) {
     if (buffer_.size() < size + kReadSize) buffer_.resize(size + kReadSize);
     const std::size_t got = files.read(file.handle(), buffer_.data() + size, buffer_.size() - size);
     size += got;
-    if (got == 0) break;
+    if (size < buffer_.size()) break;
   }
   raw = std::string_view(buffer_).substr(0, size);
   return true;
@@ -92,7 +94,7 @@ TemplateSource::Kept& TemplateSource::keep(std::string_view path, bool isShelf, 
   return kept;
 }
 
-void TemplateSource::prepare(Kept& kept) const {
+void TemplateSource::prepare(Kept& kept) {
   PageTemplate& page = kept.page;
   page.page = kept.text;
   if (kept.isShelf) {
@@ -106,8 +108,8 @@ void TemplateSource::prepare(Kept& kept) const {
     }
   }
   if (!plan_.isQuick()) return;
-  page.preparedPage = std::make_unique<PreparedText>(plan_, page.page);
-  if (page.shelf == ShelfState::Taken) page.preparedBlock = std::make_unique<PreparedText>(plan_, page.block);
+  page.preparedPage = PrepareForStore(plan_, values_, page.page);
+  if (page.shelf == ShelfState::Taken) page.preparedBlock = PrepareForStore(plan_, values_, page.block);
 }
 
 }  // namespace varlo

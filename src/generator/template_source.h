@@ -12,6 +12,7 @@
 
 namespace varlo {
 
+class ItemValues;
 struct Generator;
 struct StoreNode;
 
@@ -27,13 +28,13 @@ struct PageTemplate {
   std::string page;  // with "$SHELF" in the place of a block
   ShelfState shelf = ShelfState::None;
   std::string block;
-  std::unique_ptr<PreparedText> preparedPage;   // null when the plan is not quick
+  std::unique_ptr<PreparedText> preparedPage;   // for the store; null when the plan is not quick
   std::unique_ptr<PreparedText> preparedBlock;  // of a block that was taken
 };
 
 class TemplateSource {
  public:
-  explicit TemplateSource(Generator& generator);
+  explicit TemplateSource(ItemValues& values);
 
   // Reads the template of a node into the slot of the template tab, and remembers its name. Null when the
   // slot has no memory. The template stays valid until the next but one read.
@@ -55,8 +56,9 @@ class TemplateSource {
   void remember(std::string_view path);
   [[nodiscard]] bool readRaw(std::string_view path, std::string_view& raw);
   Kept& keep(std::string_view path, bool isShelf, std::string_view text);
-  void prepare(Kept& kept) const;
+  void prepare(Kept& kept);
 
+  ItemValues& values_;
   Generator& generator_;
   FillPlan plan_;
   std::list<Kept> kept_;  // the one used last in front

@@ -22,15 +22,6 @@ std::size_t findLastAngle(std::string_view text) {
   return at == 0 ? kNone : at - 1;
 }
 
-// Where kLetterPage begins at or behind `at`. Its "x" is rarer than its other letters.
-std::size_t findLetterPage(std::string_view text, std::size_t at) {
-  constexpr std::size_t kBeforeX = kLetterPage.find('x');
-  for (at = text.find('x', at + kBeforeX); at != kNone; at = text.find('x', at + 1)) {
-    if (text.substr(at - kBeforeX, kLetterPage.size()) == kLetterPage) return at - kBeforeX;
-  }
-  return kNone;
-}
-
 }  // namespace
 
 void TextAssembly::start(const FillPlan& plan, const PreparedText& text) {
@@ -144,19 +135,12 @@ bool TextAssembly::removeTagAware(const PreparedText::Use& use) {
   return true;
 }
 
-bool TextAssembly::isKnown(std::size_t at, std::size_t& next) const {
-  while (next < left_.size() && left_[next] < at) ++next;
-  return next < left_.size() && left_[next] == at;
-}
-
-bool TextAssembly::holdsOnlyKnownKeys(std::string_view result, std::size_t from) const {
-  std::size_t next = 0;
-  for (std::size_t at = result.find('$', from); at != kNone; at = result.find('$', at + 1)) {
-    if (plan_->isKeyAt(result.substr(at)) && !isKnown(at, next)) return false;
-  }
-  next = 0;
-  for (std::size_t at = findLetterPage(result, from); at != kNone; at = findLetterPage(result, at + 1)) {
-    if (!isKnown(at, next)) return false;
+bool TextAssembly::holdsOnlyKnownKeys(std::string_view result) const {
+  auto known = left_.begin();
+  for (const std::size_t at : signs_.keys) {
+    while (known != left_.end() && *known < at) ++known;
+    if (known != left_.end() && *known == at) continue;
+    if (result[at] != '$' || plan_->isKeyAt(result.substr(at))) return false;
   }
   return true;
 }
@@ -181,7 +165,8 @@ bool TextAssembly::finish(std::string& result, std::size_t from) {
     if (segment.open) left_.push_back(static_cast<std::size_t>(at - result.data()));
     put(source(segment.begin, segment.end));
   }
-  return holdsOnlyKnownKeys(result, from);
+  signs_.find(result, from);
+  return holdsOnlyKnownKeys(result);
 }
 
 }  // namespace varlo

@@ -17,6 +17,7 @@
 
 #include "generator/fill_plan.h"
 #include "generator/prepared_text.h"
+#include "generator/text_signs.h"
 
 namespace varlo {
 
@@ -41,6 +42,8 @@ class TextAssembly {
   // Puts the filled text into `result`, over what stands there from `from` on. False when the steps have to
   // be taken one by one, and that text is not what it should be.
   [[nodiscard]] bool finish(std::string& result, std::size_t from);
+  // What the text put in last holds.
+  [[nodiscard]] const TextSigns& signs() const { return signs_; }
 
  private:
   struct Segment {
@@ -65,13 +68,13 @@ class TextAssembly {
   [[nodiscard]] bool findAngleBefore(std::size_t segment, Position& angle) const;
   [[nodiscard]] bool findTagEnd(std::size_t segment, std::uint32_t keySize, Position& end) const;
   [[nodiscard]] bool cut(const Position& from, const Position& to);
-  [[nodiscard]] bool holdsOnlyKnownKeys(std::string_view result, std::size_t from) const;
+  [[nodiscard]] bool holdsOnlyKnownKeys(std::string_view result) const;
   [[nodiscard]] std::size_t size() const;
-  [[nodiscard]] bool isKnown(std::size_t at, std::size_t& next) const;
 
   const FillPlan* plan_ = nullptr;
   const PreparedText* prepared_ = nullptr;
   std::vector<Segment> segments_;
+  TextSigns signs_;
   std::vector<std::size_t> left_;  // where places that stay open stand in the result
 };
 

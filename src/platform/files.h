@@ -36,7 +36,7 @@ struct Files {
   [[nodiscard]] virtual FileHandle openRead(std::string_view path) = 0;
   // Creates the file, or empties the one that is there, and opens it for writing; kNoFile on failure.
   [[nodiscard]] virtual FileHandle create(std::string_view path) = 0;
-  // Reads up to `size` bytes; gives how many came, 0 at the end of the file or on an error.
+  // Reads up to `size` bytes; gives how many came: fewer at the end of the file or on an error, then 0.
   virtual std::size_t read(FileHandle file, void* data, std::size_t size) = 0;
   // Writes `size` bytes; gives how many went out.
   virtual std::size_t write(FileHandle file, const void* data, std::size_t size) = 0;

@@ -58,6 +58,13 @@ bool FolderIndex::lookUp(const std::string& folder, std::string_view name, std::
   return true;
 }
 
+bool FolderIndex::remembers(const std::string& folder, std::string_view name, std::string_view hostName) const {
+  const auto at = folders_.find(folder);
+  if (at == folders_.end()) return false;
+  const auto found = at->second.names.find(folded(name));
+  return found != at->second.names.end() && found->second == hostName;
+}
+
 // The index of a folder that is known, and brought up to its present change time: the change was ours.
 FolderIndex::Folder* FolderIndex::known(const std::string& folder) {
   const auto at = folders_.find(folder);

@@ -18,6 +18,9 @@ class FolderIndex {
   // The same, with the name in `found`; false when there is no such folder.
   [[nodiscard]] bool lookUp(const std::string& folder, std::string_view name, std::string& found);
 
+  // Whether the folder held exactly this host name when it was looked at last.
+  [[nodiscard]] bool remembers(const std::string& folder, std::string_view name, std::string_view hostName) const;
+
   // Tells that this program has made `hostName` in the folder, or removed it.
   void added(const std::string& folder, std::string_view hostName);
   void removed(const std::string& folder, std::string_view hostName);

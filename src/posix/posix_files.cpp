@@ -138,10 +138,17 @@ FileHandle PosixFiles::openRead(std::string_view path) {
   return opened(descriptor, true);
 }
 
+// A file that was there before is opened at once; for any other the folder's names decide, since the one
+// that is meant may be spelt in another case.
 FileHandle PosixFiles::create(std::string_view path) {
   std::string host = hostPath(path);
-  int descriptor = retryOpen(host, O_WRONLY | O_TRUNC);
-  if (descriptor < 0 && errno == ENOENT) {
+  const std::size_t slash = host.rfind('/');
+  const std::string_view name = std::string_view(host).substr(slash + 1);
+  int descriptor = -1;
+  if (index_.remembers(host.substr(0, slash), BytesFromUtf8(name), name)) {
+    descriptor = retryOpen(host, O_WRONLY | O_TRUNC);
+  }
+  if (descriptor < 0) {
     const Place place = findOther(std::move(host));
     descriptor = retryOpen(place.path(), O_WRONLY | O_CREAT | O_TRUNC);
     if (descriptor >= 0 && !place.exists) index_.added(place.folder, place.name);

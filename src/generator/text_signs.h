@@ -1,0 +1,28 @@
+// TextSigns: what a filled text holds that somebody has to look at, found in one pass over many bytes at
+// a time. Most texts hold next to nothing of it.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+namespace varlo {
+
+struct TextSigns {
+  std::vector<std::size_t> keys;  // where a key may begin: each "$" and each letter page
+  bool comment = false;           // a "<!--"
+  bool plusComment = false;       // a "<!--+" or a "+-->"
+  bool shelfMark = false;         // the end of a "<SHELF>" or "</SHELF>"
+
+  // The signs of `text` from `from` on, instead of what was found before.
+  void find(std::string_view text, std::size_t from);
+
+  // What is to be assumed of a text that was not searched.
+  [[nodiscard]] static TextSigns all() { return {{}, true, true, true}; }
+
+ private:
+  void look(std::string_view text, std::size_t at);
+  void lookAtEach(std::string_view text, std::size_t from, std::size_t to);
+};
+
+}  // namespace varlo
