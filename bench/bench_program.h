@@ -29,6 +29,7 @@ class QuietScreen : public Screen {
   void showTaskCount(int /*count*/) override {}
   void setWaitCursor(bool /*on*/) override {}
   std::optional<std::string> chooseFile(const FileChooserRequest& /*request*/) override { return std::nullopt; }
+  std::optional<std::string> chooseFolder(std::string_view /*title*/) override { return std::nullopt; }
   std::optional<std::uint32_t> chooseColour(std::uint32_t /*start*/, CustomColours& /*custom*/) override {
     return std::nullopt;
   }

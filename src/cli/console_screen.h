@@ -15,6 +15,7 @@ class ConsoleScreen : public Screen {
   void setWaitCursor(bool /*on*/) override {}
   // There is nobody to choose: as if everything were cancelled.
   std::optional<std::string> chooseFile(const FileChooserRequest& /*request*/) override { return std::nullopt; }
+  std::optional<std::string> chooseFolder(std::string_view /*title*/) override { return std::nullopt; }
   std::optional<std::uint32_t> chooseColour(std::uint32_t /*start*/, CustomColours& /*custom*/) override {
     return std::nullopt;
   }

@@ -43,6 +43,7 @@ struct StoreProject {
   std::array<Text, kTemplateNames> templateNames;  // used lately, newest first
 
   NodePool nodes;
+  std::int32_t nodesRead = 0;                // by the last load, and by merges since
   StoreNode* root = nullptr;                 // first top-level node; the store's home page
   StoreNode* currentNode = nullptr;          // shown in the form
   StoreNode* treeNode = nullptr;             // selected in the tree; the list shows its children

@@ -38,6 +38,7 @@ int loadProject(Program& program) {
   ProjectClose(program);
   ProjectDirFromFile(project);
   LineReader reader(program.files, file.handle());
+  project.nodesRead = 0;
   project.root = ProjectParse(program, reader, nullptr, nullptr, false);
   project.currentNode = project.treeNode = project.root;
   file.close();

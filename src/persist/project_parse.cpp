@@ -100,7 +100,6 @@ class Parser {
   bool merging_;
   FreightLineReader freight_;
   std::vector<Level> levels_;
-  int nodeCount_ = 0;
   CardEntry* lastCard_ = nullptr;
   std::string scratch_;
 };
@@ -218,10 +217,10 @@ void Parser::addNode(NodeKind kind, std::string_view title) {
   node->prev = at.previous;
   (at.head == nullptr ? at.head : at.lastNode->next) = node;
   at.previous = at.lastNode = node;
-  ++nodeCount_;
+  ++project_.nodesRead;
   if (++at.sinceCount < kNodesPerCount) return;
   at.sinceCount = 0;
-  program_.screen.showTaskCount(nodeCount_);
+  program_.screen.showTaskCount(project_.nodesRead);
 }
 
 void Parser::status(std::string_view value) {

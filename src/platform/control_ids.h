@@ -10,6 +10,8 @@ namespace dialog {
 inline constexpr int kPreferences = 1000;
 inline constexpr int kSaveAs = 1100;
 inline constexpr int kRestore = 1200;
+inline constexpr int kStoreBuild = 1300;
+inline constexpr int kFirstBuild = 1400;
 
 }  // namespace dialog
 
@@ -37,6 +39,21 @@ inline constexpr ControlId kBrowse = 1102;
 namespace restore {
 inline constexpr ControlId kList = 1201;
 }  // namespace restore
+
+namespace store_build {
+inline constexpr ControlId kBuild = kOk;
+inline constexpr ControlId kDirectory = 1301;
+inline constexpr ControlId kBrowse = 1302;
+inline constexpr ControlId kTitle = 1303;
+inline constexpr ControlId kLog = 1304;
+inline constexpr ControlId kProgress = 1305;
+inline constexpr ControlId kLabel = 1306;
+}  // namespace store_build
+
+namespace first_build {
+inline constexpr ControlId kDirectory = 1401;
+inline constexpr ControlId kTitle = 1402;
+}  // namespace first_build
 
 }  // namespace control
 }  // namespace varlo

@@ -49,11 +49,21 @@ struct Dialog {
   virtual void focus(ControlId control) = 0;
   // Puts the caret of an edit field behind its text.
   virtual void caretToEnd(ControlId control) = 0;
-  // Paints a control anew.
+  // Paints a control anew, at once.
   virtual void repaint(ControlId control) = 0;
 
   // Combo boxes: append a row to the list below the edit field.
   virtual void addComboRow(ControlId control, std::string_view text) = 0;
+
+  // List boxes of plain rows: empty one, append a row, scroll to a row.
+  virtual void clearListBox(ControlId control) = 0;
+  virtual void addListBoxRow(ControlId control, std::string_view text) = 0;
+  virtual void showListBoxRow(ControlId control, int row) = 0;
+
+  // Progress bars go from 0 to a top in steps of 1; a new top sets the bar to 0.
+  virtual void setProgressTop(ControlId control, int top) = 0;
+  virtual void stepProgress(ControlId control) = 0;
+  virtual void setProgress(ControlId control, int position) = 0;
 
   // Lists in columns: rows hold no text, each cell is asked for by DialogLogic::cellText when shown.
   virtual void setColumns(ControlId control, std::span<const ListColumn> columns) = 0;

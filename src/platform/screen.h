@@ -54,6 +54,8 @@ struct Screen {
   virtual void setWaitCursor(bool on) = 0;
   // The full path of the chosen file; none when the user cancelled.
   virtual std::optional<std::string> chooseFile(const FileChooserRequest& request) = 0;
+  // The full path of the chosen folder; none when the user cancelled.
+  virtual std::optional<std::string> chooseFolder(std::string_view title) = 0;
   // The chosen colour (red in the lowest byte, then green, blue), starting from `start`; none when the
   // user cancelled. The chooser shows the custom colours and changes them in place.
   virtual std::optional<std::uint32_t> chooseColour(std::uint32_t start, CustomColours& custom) = 0;

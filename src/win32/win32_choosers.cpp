@@ -3,6 +3,8 @@
 #include <windows.h>
 
 #include <commdlg.h>
+#include <objbase.h>
+#include <shlobj.h>
 
 #include <algorithm>
 #include <array>
@@ -31,6 +33,21 @@ std::optional<std::string> Win32Screen::chooseFile(const FileChooserRequest& req
   chooser.Flags = OFN_NOCHANGEDIR | OFN_HIDEREADONLY | OFN_EXPLORER;
   if (request.mustExist) chooser.Flags |= OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST;
   if (::GetOpenFileNameA(&chooser) == 0) return std::nullopt;
+  return std::string(path.data());
+}
+
+std::optional<std::string> Win32Screen::chooseFolder(std::string_view title) {
+  const std::string shownTitle(title);
+  std::array<char, MAX_PATH> path{};
+  BROWSEINFOA chooser{};
+  chooser.hwndOwner = boxOwner();
+  chooser.lpszTitle = shownTitle.c_str();
+  chooser.ulFlags = BIF_RETURNONLYFSDIRS;
+  const PIDLIST_ABSOLUTE chosen = ::SHBrowseForFolderA(&chooser);
+  if (chosen == nullptr) return std::nullopt;
+  const bool hasPath = ::SHGetPathFromIDListA(chosen, path.data()) != FALSE;
+  ::CoTaskMemFree(chosen);
+  if (!hasPath) return std::nullopt;
   return std::string(path.data());
 }
 

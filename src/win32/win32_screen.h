@@ -22,6 +22,7 @@ class Win32Screen : public Screen {
   void showTaskCount(int count) override;
   void setWaitCursor(bool on) override;
   std::optional<std::string> chooseFile(const FileChooserRequest& request) override;
+  std::optional<std::string> chooseFolder(std::string_view title) override;
   std::optional<std::uint32_t> chooseColour(std::uint32_t start, CustomColours& custom) override;
   void postCommand(PostedCommand command) override;
 

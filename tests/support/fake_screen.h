@@ -28,6 +28,8 @@ class FakeScreen : public Screen {
   std::vector<bool> waitCursor;    // changes of the wait cursor
   std::vector<FileChooserRequest> fileRequests;
   std::deque<std::string> files;  // to be chosen; without one the chooser is cancelled
+  std::vector<std::string> folderTitles;
+  std::deque<std::string> folders;  // to be chosen; without one the chooser is cancelled
   std::vector<std::uint32_t> colourStarts;
   std::deque<std::uint32_t> colours;  // to be chosen; without one the chooser is cancelled
   std::function<void(CustomColours&)> onColours;
@@ -49,6 +51,10 @@ class FakeScreen : public Screen {
   std::optional<std::string> chooseFile(const FileChooserRequest& request) override {
     fileRequests.push_back(request);
     return takeFirst(files);
+  }
+  std::optional<std::string> chooseFolder(std::string_view title) override {
+    folderTitles.emplace_back(title);
+    return takeFirst(folders);
   }
   std::optional<std::uint32_t> chooseColour(std::uint32_t start, CustomColours& custom) override {
     colourStarts.push_back(start);

@@ -2,6 +2,7 @@
 // and lets a test act as the user.
 #pragma once
 
+#include <algorithm>
 #include <map>
 #include <string>
 #include <vector>
@@ -45,6 +46,11 @@ class FakeWindow : public Dialog {
   [[nodiscard]] int repaints(ControlId control) { return repaints_[control]; }
   [[nodiscard]] bool caretAtEnd(ControlId control) { return caretAtEnd_[control]; }
 
+  [[nodiscard]] const std::vector<std::string>& listBoxRows(ControlId control) { return listBoxes_[control].rows; }
+  [[nodiscard]] int shownListBoxRow(ControlId control) { return listBoxes_[control].shown; }
+  [[nodiscard]] int progress(ControlId control) { return bars_[control].position; }
+  [[nodiscard]] int progressTop(ControlId control) { return bars_[control].top; }
+
   std::string text(ControlId control) override { return texts_[control]; }
   void setText(ControlId control, std::string_view text) override {
     texts_[control] = text;
@@ -65,6 +71,16 @@ class FakeWindow : public Dialog {
   void caretToEnd(ControlId control) override { caretAtEnd_[control] = true; }
   void repaint(ControlId control) override { ++repaints_[control]; }
   void addComboRow(ControlId control, std::string_view text) override { combos_[control].emplace_back(text); }
+  void clearListBox(ControlId control) override { listBoxes_[control] = {}; }
+  void addListBoxRow(ControlId control, std::string_view text) override {
+    listBoxes_[control].rows.emplace_back(text);
+  }
+  void showListBoxRow(ControlId control, int row) override { listBoxes_[control].shown = row; }
+  void setProgressTop(ControlId control, int top) override { bars_[control] = {.top = top}; }
+  void stepProgress(ControlId control) override { setProgress(control, bars_[control].position + 1); }
+  void setProgress(ControlId control, int position) override {
+    bars_[control].position = std::min(position, bars_[control].top);
+  }
   void setColumns(ControlId list, std::span<const ListColumn> columns) override {
     columns_[list].assign(columns.begin(), columns.end());
   }
@@ -81,6 +97,14 @@ class FakeWindow : public Dialog {
     int count = 0;
     int selected = kNoRow;
   };
+  struct ListBox {
+    std::vector<std::string> rows;
+    int shown = kNoRow;
+  };
+  struct Bar {
+    int top = 100;
+    int position = 0;
+  };
   void tell(ControlId control, Notice notice) { logic_.notified(*this, {control, notice}); }
 
   DialogLogic& logic_;
@@ -93,6 +117,8 @@ class FakeWindow : public Dialog {
   std::map<ControlId, std::vector<std::string>> combos_;
   std::map<ControlId, std::vector<ListColumn>> columns_;
   std::map<ControlId, Rows> rows_;
+  std::map<ControlId, ListBox> listBoxes_;
+  std::map<ControlId, Bar> bars_;
   ControlId focused_ = 0;
   bool open_ = true;
   int result_ = 0;
