@@ -21,7 +21,10 @@ struct CommandArguments {
   std::string name;    // of a new project
   std::string title;   // of its store
   std::string scheme;  // "style/scheme"
-  int number = 0;      // of a backup
+  std::string to;      // directory of a site
+  bool hasTitle = false;
+  bool open = false;  // show the site in the browser
+  int number = 0;     // of a backup
 };
 
 // Loads a project and saves it again; with an output the result goes to that file, and the project and
@@ -46,5 +49,16 @@ int RunBackups(Machine& machine, const CommandArguments& arguments);
 
 // Brings a backup back over the project's file.
 int RunRestore(Machine& machine, const CommandArguments& arguments);
+
+// Builds the store into a directory, else into the project's "Web". The log goes to standard output; errors
+// that it counts, and a build that did not start, give kExitErrors.
+int RunStoreBuild(Machine& machine, const CommandArguments& arguments);
+
+// Makes the page of the node with the given file name, else of the first one, with the cart around it, and
+// prints the path of the frameset.
+int RunPreview(Machine& machine, const CommandArguments& arguments);
+
+// Prints the freight expression of a project.
+int RunFreight(Machine& machine, const CommandArguments& arguments);
 
 }  // namespace varlo

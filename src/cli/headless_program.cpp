@@ -8,7 +8,7 @@
 namespace varlo {
 
 HeadlessProgram::HeadlessProgram(Machine& machine, Files& files)
-    : files_(files), program_(files, *machine.clock, screen_, *machine.clipboard, view_) {
+    : files_(files), view_(machine), program_(files, *machine.clock, screen_, *machine.clipboard, view_) {
   StartUp(program_, FileStartUpSteps());
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "cli/console_screen.h"
+#include "cli/console_view.h"
 #include "core/program.h"
 #include "platform/machine.h"
 
@@ -20,12 +21,15 @@ class HeadlessProgram {
   // Loads the project; false when that can't be done, after a message.
   [[nodiscard]] bool load(const std::string& project);
 
+  // From now on pages that the program shows go to the browser.
+  void showPages() { view_.showPages(program_); }
+
   [[nodiscard]] Program& program() { return program_; }
 
  private:
   Files& files_;
   ConsoleScreen screen_;
-  View view_;
+  ConsoleView view_;
   Program program_;
 };
 

@@ -61,6 +61,18 @@ void addCommands(CLI::App& app, Choice& choice) {
   added->add_option("--title", arguments.title, "title of the store")->required();
   added->add_option("--scheme", arguments.scheme, "layout, as STYLE/SCHEME");
 
+  CLI::App* build = addProjectCommand(app, "build", "build the store's web site", RunStoreBuild, choice);
+  build->add_option("--to", arguments.to, "directory of the site (default: Web in the project's folder)");
+  build->add_option("--title", arguments.title, "title of the store (default: the project's)")
+      ->each([&arguments](const std::string&) { arguments.hasTitle = true; });
+  build->add_flag("--open", arguments.open, "show the site in the browser");
+
+  CLI::App* preview = addProjectCommand(app, "preview", "make one page and the cart around it", RunPreview, choice);
+  preview->add_option("--at", arguments.at, "file name of the page (default: the first)");
+  preview->add_option("--to", arguments.to, "directory that it is made in")->required();
+
+  addProjectCommand(app, "freight", "print the freight expression of a project", RunFreight, choice);
+
   addProjectCommand(app, "backups", "list the backups of a project", RunBackups, choice);
   addProjectCommand(app, "restore", "bring a backup back over the project", RunRestore, choice)
       ->add_option("NUMBER", arguments.number, "number of the backup; 1 is the newest")

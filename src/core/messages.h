@@ -74,6 +74,9 @@ inline constexpr std::string_view kIndexFileError = "S108: Unable to write index
 inline constexpr std::string_view kInvalidDirectory =
     "Invalid Directory Name.  Must not include forward slash characters or commas.";
 inline constexpr std::string_view kPreviewFolderError = "Unable to create directory '%s'";
+inline constexpr std::string_view kBrowserError =
+    "\"Unable to open the specified Browser. Please check the  Preferences.\"";
+inline constexpr std::string_view kBrowserErrorTitle = "Browser Error";
 inline constexpr std::string_view kChooseWebDirectory = "Select Web Directory";
 
 // Projects of older versions.

@@ -91,14 +91,14 @@ void showSite(Program& program) {
 
 std::string ReadyLine() { return FillMessage(message::kReady, {kProductName, kProductVersion, kProductRelease}); }
 
-int RunBuild(Generator& generator, std::string_view directory, std::string_view title) {
+int RunBuild(Generator& generator, std::string directory, std::string_view title) {
   StoreProject& project = generator.program.project;
   startLog(generator.log);
   project.storeTitle.assign(title);
   if (!CheckDirectoryName(generator.program, directory)) return 0;
-  if (directory.ends_with('\\')) directory.remove_suffix(1);
+  if (directory.ends_with('\\')) directory.pop_back();
   const Text former = project.webDir;
-  project.webDir.assign(directory);
+  project.webDir.assign(std::string_view(directory));
   if (makeDirectories(generator, directory) == 0) {
     project.webDir = former;
     return 0;

@@ -16,6 +16,6 @@ struct Generator;
 // only the counters tell. 1 when it went to its end (also when the user stopped the walk), 0 with a message
 // or a "critical error" in the log when it did not start. The directory becomes webDir for the time of the
 // build. Deliberate: without any scheme it stays so.
-int RunBuild(Generator& generator, std::string_view directory, std::string_view title);
+int RunBuild(Generator& generator, std::string directory, std::string_view title);
 
 }  // namespace varlo

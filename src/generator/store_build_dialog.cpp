@@ -71,7 +71,7 @@ void StoreBuildDialog::leave() {
 void StoreBuildDialog::build(Dialog& dialog) {
   const Text title = FieldText(dialog, kTitle);
   const Text directory = FieldText(dialog, kDirectory);
-  RunBuild(generator_, directory.view(), title.view());
+  RunBuild(generator_, std::string(directory.view()), title.view());
 }
 
 void StoreBuildDialog::browse(Dialog& dialog) {

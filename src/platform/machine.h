@@ -26,4 +26,11 @@ struct Machine {
 // A text of the program as the machine's terminal shows it.
 [[nodiscard]] std::string TerminalText(std::string_view text);
 
+// Whether messages on standard error are seen by a person right now.
+[[nodiscard]] bool ErrorsGoToTerminal();
+
+// Shows an address, or a file by its full name, in the browser `program`; the machine's own for an empty
+// one. False when it can't be started.
+[[nodiscard]] bool StartBrowser(Machine& machine, const std::string& program, const std::string& address);
+
 }  // namespace varlo

@@ -31,6 +31,9 @@ class PosixFiles : public Files {
   std::string errorText() override;
   FileError lastError() override;
 
+  // The path of a file, there or not, as the host spells it.
+  [[nodiscard]] std::string hostPathOf(std::string_view path) { return find(path).path(); }
+
  private:
   // A host path in two parts, and whether something is there under it.
   struct Place {
