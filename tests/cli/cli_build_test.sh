@@ -57,6 +57,25 @@ run 2 --install install preview Projects/Toys/Toys.stp --at no.htm --to preview
 tells "there is no page 'no.htm'"
 run 2 --install install preview Projects/Toys/Toys.stp
 
+# The browser: not without being asked, then the one of the configuration, which may not be there.
+printf '#!/bin/sh\nprintf "%%s" "$1" >"%s/opening"\nmv "%s/opening" "%s/opened"\n' "$work" "$work" "$work" >browser
+chmod +x browser
+printf 'browser=%s\n' "$work/browser" >install/config.ini
+run 0 --install install build Projects/Toys/Toys.stp --to again
+[ ! -e opened ] || fail 'the browser was opened without being asked for'
+if [ -z "${VARLO_NATIVE_CLI:-}" ]; then
+  run 0 --install install build Projects/Toys/Toys.stp --to AGAIN --open
+  for _ in 1 2 3 4 5 6 7 8 9 10; do
+    [ ! -e opened ] || break
+    sleep 1
+  done
+  [ "$(cat opened)" = "$work/install/again/index.html" ] || fail "the browser was not given the page's name on this machine"
+fi
+printf 'browser=%s\n' "$work/nowhere" >install/config.ini
+run 0 --install install build Projects/Toys/Toys.stp --to again --open
+tells 'Browser Error: "Unable to open the specified Browser. Please check the  Preferences."'
+rm install/config.ini
+
 # What goes wrong.
 run 2 --install install build Projects/Toys/Gone.stp
 tells 'S103: Unable to read project file'
