@@ -1,5 +1,6 @@
 #include "commerce/freight_expression.h"
 
+#include <random>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -298,6 +299,103 @@ TEST_F(FreightExpression, WhatTheTextHeldBeforeIsGone) {
   WorkingText expression{.text = "heading"};
   BuildFreightExpression(project, expression);
   EXPECT_EQ(expression.text, "");
+}
+
+// The steps as they are told, one region after another and each compared with all behind it.
+class PlainExpression {
+ public:
+  explicit PlainExpression(StoreProject& project) : project_(project) {}
+
+  WorkingText run() {
+    for (std::size_t slot = 0; slot < kFreightMethods; ++slot) {
+      for (FreightRegion* region = project_.regions; region != nullptr; region = region->next)
+        region->buildMerged = 0;
+      named_ = false;
+      for (FreightRegion* region = project_.regions; region != nullptr; region = region->next) {
+        if (region->buildMerged == 0 && region->method[slot]->active != 0) group(region, slot);
+      }
+    }
+    if (!out_.text.empty()) out_.text += ");";
+    return out_;
+  }
+
+ private:
+  static bool same(const Text& left, const Text& right) { return std::string(left.orEmpty()) == right.orEmpty(); }
+  static bool joins(const FreightRegion* first, const FreightRegion* other, std::size_t slot) {
+    if (other->buildMerged != 0 || other->method[slot]->active == 0) return false;
+    for (std::size_t i = 0; i < kFreightCells; ++i) {
+      if (!same(first->method[slot]->value[i], other->method[slot]->value[i])) return false;
+    }
+    return same(first->method[slot]->rule, other->method[slot]->rule) && same(first->regionValue, other->regionValue);
+  }
+  void rate(std::string value, const char* mark) {
+    if (value.empty()) return;
+    if (value.find('%') != std::string::npos) value.erase(value.find('%'), 1);
+    out_.text += value + mark;
+  }
+  void group(FreightRegion* first, std::size_t slot) {
+    if (out_.text.size() + 2000 > out_.capacity) out_.capacity += 12000;
+    if (!named_) {
+      if (!out_.text.empty()) out_.text += ");";
+      out_.text += std::string(project_.methodName[slot].orEmpty()) + "(";
+      named_ = true;
+    }
+    out_.text += first->code.orEmpty();
+    first->buildMerged = 1;
+    for (FreightRegion* other = first->next; other != nullptr; other = other->next) {
+      if (!joins(first, other, slot)) continue;
+      out_.text += std::string(",") + other->code.orEmpty();
+      other->buildMerged = 1;
+    }
+    out_.text += "(";
+    rate(first->regionValue.orEmpty(), "%,");
+    rate(project_.tax.freightTaxRate.orEmpty(), "f,");
+    charges(*first->method[slot]);
+    out_.text += ");";
+  }
+  void charges(const FreightMethod& table) {
+    const std::string rule = std::string(table.rule.orEmpty()).substr(0, 4048);
+    if (!rule.empty()) {
+      if (out_.text.size() + rule.size() < out_.capacity) out_.text += rule;
+      return;
+    }
+    const auto cell = [&table](std::size_t i) { return std::string(table.value[i].orEmpty()); };
+    out_.text += (cell(0).empty() ? "0" : cell(0)) + "<=0.5k";
+    for (std::size_t i = 1; i <= 10; ++i) {
+      if (!cell(i).empty()) out_.text += "," + cell(i) + "<=" + std::to_string(i) + "k";
+    }
+    if (!cell(11).empty()) out_.text += "," + cell(10) + "+" + cell(11) + "k>10k";
+  }
+
+  StoreProject& project_;
+  WorkingText out_;
+  bool named_ = false;
+};
+
+TEST_F(FreightExpression, AgreesWithThePlainStepsOnManyStores) {
+  std::mt19937 random(20030201);
+  const auto below = [&random](std::size_t count) { return static_cast<std::size_t>(random()) % count; };
+  for (int store = 0; store < 300; ++store) {
+    FreightRegionListFree(project.regions);
+    project.regions = project.regionsTail = nullptr;
+    project.tax.freightTaxRate.assign(below(2) == 0 ? "" : "7%");
+    for (std::size_t i = below(60); i > 0; --i) {
+      FreightRegion* region = AddRegion(project, ("R" + std::to_string(below(20))).c_str());
+      if (below(3) == 0) region->regionValue.assign(below(2) == 0 ? "*" : "10%");
+      for (FreightMethod* table : region->method) {
+        table->active = below(4) != 0 ? 1 : 0;
+        for (std::size_t cells = below(3); cells > 0; --cells) {
+          table->value[below(kFreightCells)].assign(std::to_string(below(2)).c_str());
+        }
+        if (below(4) == 0) table->rule.assign(std::string_view(std::string(below(3) * 2300, 'r')));
+      }
+    }
+    WorkingText expression;
+    BuildFreightExpression(project, expression);
+    const WorkingText plain = PlainExpression(project).run();
+    ASSERT_EQ(expression.text, plain.text) << store;
+    ASSERT_EQ(expression.capacity, plain.capacity) << store;
+  }
 }
 
 }  // namespace

@@ -214,7 +214,7 @@ TEST_F(Build, OneTrailingBackSlashIsCut) {
 }
 
 TEST_F(Build, OfTwoTrailingBackSlashesOneStays) {
-  failAt("makeFolder C:\\Site\\\\img");
+  failAt("makeFolder C:\\Site\\img");
   build("C:\\Site\\\\");
   EXPECT_EQ(t.window.lines[2], "critical error: unable to create directory 'C:\\Site\\\\img'");
 }

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "generator/frame_script.h"
 #include "tests/support/freight.h"
 #include "tests/support/test_shop.h"
 
@@ -75,6 +76,20 @@ TEST_F(CartFrames, WithoutAWindowTheErrorOfAFrameLoaderStillCounts) {
   EXPECT_EQ(t.generator.log.errorCount, 1);
   EXPECT_THAT(t.window.lines, IsEmpty());
   EXPECT_THAT(t.window.labels, IsEmpty());
+}
+
+TEST_F(CartFrames, LoaderAndPageScriptGiveTheSameFramesAndOnlyTheScriptPassesTheSearchOn) {
+  WriteFrameLoader(t.generator, "1.htm", "index.html");
+  const std::string loader = t.site("index.html");
+  for (const char* shared :
+       {"COLS=\"*,208\"", "ROWS=\"*,110\"", "NAME=\"shopmain\"", "NAME=\"shoptrolley\"", "NAME=\"shopregister\""}) {
+    EXPECT_NE(loader.find(shared), std::string::npos) << shared;
+    EXPECT_NE(kFrameScript.find(shared), std::string_view::npos) << shared;
+  }
+  EXPECT_NE(kFrameScript.find("location.search"), std::string_view::npos);
+  EXPECT_NE(kFrameScript.find("location + '?x\""), std::string_view::npos);
+  EXPECT_EQ(loader.find("location"), std::string::npos);
+  EXPECT_EQ(loader.find("?x"), std::string::npos);
 }
 
 // The trolley.
