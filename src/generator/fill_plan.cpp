@@ -8,6 +8,9 @@
 namespace varlo {
 namespace {
 
+// Steps are numbered in 16 bits, and there are others beside those of the variables.
+constexpr std::size_t kMostVariables = 60000;
+
 constexpr std::array<std::string_view, 6> kEarlyKeys{"$STORETITLE",  "$PAGETITLE", "$BODY",
                                                      "$DESCRIPTION", "$KEYWORDS",  "$UPDATED"};
 
@@ -55,7 +58,7 @@ void FillPlan::addVariables(const UserVariable* variables) {
   for (std::size_t number = 0; variables != nullptr; variables = variables->next, ++number) {
     const std::string_view name = variables->name.view();
     if (name.empty()) continue;
-    if (!isQuickName(name) || number > kEveryTime) quick_ = false;
+    if (!isQuickName(name) || number >= kMostVariables) quick_ = false;
     add(name, FillSource::Variable, number, kVariableRounds);
   }
 }

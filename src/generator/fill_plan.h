@@ -47,7 +47,7 @@ class FillPlan {
   explicit FillPlan(const UserVariable* variables);
 
   // Whether texts can be filled the quick way at all: each variable's name must begin with "$", as every
-  // other key does, and hold neither a second "$" nor an angle bracket.
+  // other key does, and hold neither a second "$" nor an angle bracket. Very many variables are too many.
   [[nodiscard]] bool isQuick() const { return quick_; }
 
   [[nodiscard]] const std::vector<FillStep>& steps() const { return steps_; }

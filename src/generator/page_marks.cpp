@@ -14,12 +14,18 @@ constexpr std::string_view kShelfClose = "</SHELF>";
 constexpr std::string_view kCommentClose = "-->";
 constexpr std::size_t kNone = std::string_view::npos;
 
+// Closes the text up byte by byte, so that marks which only come about by that go as well.
 void removeNoCase(std::string& text, std::string_view mark) {
-  std::size_t at = 0;
-  while ((at = FindNoCase(text, mark, at)) != kNone) {
-    text.erase(at, mark.size());
-    at -= std::min(at, mark.size() - 1);  // what is left may join to a mark
+  const std::size_t first = FindNoCase(text, mark);
+  if (first == kNone) return;
+  std::size_t kept = first;
+  for (std::size_t at = first; at < text.size(); ++at) {
+    text[kept++] = text[at];
+    if (text[at] != mark.back() || kept < mark.size()) continue;
+    const std::string_view last = std::string_view(text).substr(kept - mark.size(), mark.size());
+    if (EqualsNoCase(last, mark)) kept -= mark.size();
   }
+  text.resize(kept);
 }
 
 // Where a comment starts, with "<!--" or the longer `mark`. The "!" is rarer than the "<".

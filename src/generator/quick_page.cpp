@@ -153,42 +153,45 @@ bool QuickPage::takeIndex(const Use& use, StoreNode& node) {
 }
 
 // The lists that a page shows have no node in common, so nothing has to be stamped. Only a node whose
-// `prev` is odd can have its siblings listed from two starts.
+// `prev` is odd can have its siblings listed from two starts, and only one whose `parent` is odd can stand
+// in a list beside its parent.
 bool QuickPage::composeIndex(const IndexPlan& plan, StoreNode& node) {
   if (plan.listsSiblings && plan.further != nullptr && plan.further != plan.first) return false;
   BeginIndex(index_, values_, plan);
   place_ = std::string::npos;
   StoreNode* listed = plan.listsSiblings ? plan.first : plan.further;
-  if (listed != nullptr) addLevel(levels_.of(listed), &node, plan.branch);
+  if (listed != nullptr && !addLevel(levels_.of(listed), node, plan.branch)) return false;
   EndIndex(index_, values_);
   if (place_ == std::string::npos) place_ = index_.size();
   return true;
 }
 
 // Adds the rows of a level to the index; the row of the page's own node, or else of the branch, has the
-// place for $SUBINDEX.
-void QuickPage::addLevel(LevelRows& level, const StoreNode* own, const StoreNode* branch) {
-  std::size_t open = level.find(*own);
+// place for $SUBINDEX. False when both are there.
+bool QuickPage::addLevel(LevelRows& level, const StoreNode& own, const StoreNode* branch) {
+  std::size_t open = level.find(own);
   const bool isOwn = open != LevelRows::kNotThere;
-  if (isOwn) {
-    letter_ = LetterOf(*own);
-  } else if (branch != nullptr) {
-    open = level.find(*branch);
+  if (isOwn) letter_ = LetterOf(own);
+  if (branch != nullptr) {
+    const std::size_t branchRow = level.find(*branch);
+    if (isOwn && branchRow != LevelRows::kNotThere) return false;
+    if (!isOwn) open = branchRow;
   }
   if (open == LevelRows::kNotThere) {
     index_.append(level.all());
-    return;
+    return true;
   }
   index_.append(level.before(open));
   const std::size_t row = index_.size();
   if (isOwn) {
-    OwnRow(index_, values_, *own, true);
+    OwnRow(index_, values_, own, true);
   } else {
     NodeRow(index_, values_, *branch, true);
   }
   place_ = index_.rfind(kSubindexKey);
   if (place_ < row) place_ = std::string::npos;
   index_.append(level.behind(open));
+  return true;
 }
 
 void QuickPage::composeSubindex(const StoreNode& node) {

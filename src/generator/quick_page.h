@@ -42,7 +42,7 @@ class QuickPage {
 
   [[nodiscard]] bool takeIndex(const Use& use, StoreNode& node);
   [[nodiscard]] bool composeIndex(const IndexPlan& plan, StoreNode& node);
-  void addLevel(LevelRows& level, const StoreNode* own, const StoreNode* branch);
+  [[nodiscard]] bool addLevel(LevelRows& level, const StoreNode& own, const StoreNode* branch);
   void composeSubindex(const StoreNode& node);
   void report(const StoreNode& item, const StoreNode& page);
 

@@ -1,52 +1,119 @@
 #include "generator/replace.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace varlo {
 namespace {
 
 constexpr std::size_t kNone = std::string::npos;
 
+// How much may be put in for keys that only came about at joints.
+constexpr std::size_t kMostAtJoints = 4 * 1024 * 1024;
+
 // Where to search on for `key` behind a replacement at `at`, with the results of a search from the front:
 // what is left in front of that cannot have changed.
 std::size_t searchBehind(std::size_t at, std::string_view key) { return at < key.size() ? 0 : at - key.size() + 1; }
 
-// Replaces every key of a text in one pass. Only where neither the value nor its joints to the text can
-// make a new key: the first byte of the key stands neither in the value nor, within reach, in front of it.
-class OnePass {
+// A text in two parts: what is done, and what still lies ahead. Bytes go from one to the other at the seam,
+// so that a change costs no more than its own bytes, however long the text is.
+class Seam {
  public:
-  OnePass(std::string_view key, std::string_view value) : key_(key), value_(value) {}
+  explicit Seam(std::string text) : ahead_(std::move(text)) { done_.reserve(ahead_.size()); }
 
-  [[nodiscard]] bool holdsFor(const std::string& text, std::size_t at) const {
-    const std::size_t from = searchBehind(at, key_);
-    return value_.find(key_.front()) == kNone &&
-           std::string_view(text).substr(from, at - from).find(key_.front()) == kNone;
+  [[nodiscard]] std::string_view ahead() const { return std::string_view(ahead_).substr(begin_); }
+  [[nodiscard]] const std::string& done() const { return done_; }
+  [[nodiscard]] std::size_t size() const { return done_.size() + ahead_.size() - begin_; }
+
+  void pass(std::size_t bytes) {
+    done_.append(ahead_, begin_, bytes);
+    begin_ += bytes;
   }
-  // Replaces from the key at `at` on, as far as the pass holds; gives the next key that is left.
-  std::size_t run(std::string& text, std::size_t at) {
-    std::string result;
-    std::size_t done = 0;
-    while (at != kNone && holdsFor(text, at)) {
-      result.append(text, done, at - done).append(value_);
-      done = at + key_.size();
-      at = text.find(key_, done);
-    }
-    const std::size_t rest = result.size();
-    result.append(text, done);
-    if (at != kNone) at = rest + (at - done);
-    text = std::move(result);
-    return at;
+  void drop(std::size_t bytes) { begin_ += bytes; }
+  void cutDone(std::size_t size) { done_.resize(size); }
+  // Puts bytes in front of what lies ahead.
+  void push(std::string_view bytes) {
+    if (begin_ < bytes.size()) makeRoom(bytes.size());
+    begin_ -= bytes.size();
+    bytes.copy(ahead_.data() + begin_, bytes.size());
   }
+  // Takes the last bytes of what is done back.
+  std::size_t takeBack(std::size_t bytes) {
+    bytes = std::min(bytes, done_.size());
+    push(std::string_view(done_).substr(done_.size() - bytes));
+    done_.resize(done_.size() - bytes);
+    return bytes;
+  }
+  [[nodiscard]] std::string whole() { return std::move(done_.append(ahead())); }
 
  private:
-  std::string_view key_;
-  std::string_view value_;
+  void makeRoom(std::size_t bytes) {
+    const std::size_t room = bytes + ahead_.size();
+    ahead_.insert(0, room, '\0');
+    begin_ += room;
+  }
+
+  std::string done_;
+  std::string ahead_;
+  std::size_t begin_ = 0;  // of what lies ahead
 };
 
-// The first "<" or ">" in front of `at`, looked for backwards; the start of the text when there is none.
-std::size_t angleBefore(const std::string& text, std::size_t at) {
-  const std::size_t found = text.find_last_of("<>", at);
-  return found == kNone ? 0 : found;
+void replaceForward(std::string& text, std::string_view key, std::string_view value) {
+  std::string result;
+  std::size_t done = 0;
+  for (std::size_t at = text.find(key); at != kNone; at = text.find(key, done)) {
+    result.append(text, done, at - done).append(value);
+    done = at + key.size();
+  }
+  text = std::move(result.append(text, done));
+}
+
+// The angle brackets in what is done of a text, each found once.
+class Angles {
+ public:
+  // Looks through what was done since the last call.
+  void follow(const std::string& done) {
+    for (; seen_ < done.size(); ++seen_) {
+      if (done[seen_] == '<' || done[seen_] == '>') places_.push_back(seen_);
+    }
+  }
+  // Forgets what is no longer done.
+  void cut(std::size_t size) {
+    while (!places_.empty() && places_.back() >= size) places_.pop_back();
+    seen_ = std::min(seen_, size);
+  }
+  // The last one; the start of the text when there is none.
+  [[nodiscard]] std::size_t last() const { return places_.empty() ? 0 : places_.back(); }
+  [[nodiscard]] bool empty() const { return places_.empty(); }
+
+ private:
+  std::vector<std::size_t> places_;
+  std::size_t seen_ = 0;
+};
+
+Replaced removeTagAware(std::string& text, std::string_view key) {
+  Seam seam(std::move(text));
+  Angles angles;
+  Replaced result = Replaced::Done;
+  for (std::size_t at = 0; (at = seam.ahead().find(key)) != kNone;) {
+    seam.pass(at);
+    angles.follow(seam.done());
+    if (!angles.empty() && seam.done()[angles.last()] == '>') {
+      seam.drop(key.size());
+    } else {
+      const std::size_t end = seam.ahead().find('>');
+      if (end == kNone) {
+        result = Replaced::Endless;
+        break;
+      }
+      seam.drop(end + 1);
+      seam.cutDone(angles.last());
+    }
+    seam.takeBack(key.size() - 1);
+    angles.cut(seam.done().size());
+  }
+  text = seam.whole();
+  return result;
 }
 
 }  // namespace
@@ -70,43 +137,34 @@ void ReplaceUpTo(int times, std::string& text, std::string_view key, const Value
   }
 }
 
+// A value that does not hold the key can still make it at its joints to the text, and a long one can do so
+// for longer than anyone can wait.
 Replaced ReplaceAll(std::string& text, std::string_view key, const Value& value) {
-  if (!value || key.empty()) return Replaced::Done;
-  std::size_t at = text.find(key);
-  if (at == kNone) return Replaced::Done;
+  if (!value || key.empty() || text.find(key) == kNone) return Replaced::Done;
   if (value->find(key) != kNone) return Replaced::Endless;
-  OnePass pass(key, *value);
-  while (at != kNone) {
-    if (pass.holdsFor(text, at)) {
-      at = pass.run(text, at);
-      continue;
-    }
-    text.replace(at, key.size(), *value);
-    at = text.find(key, searchBehind(at, key));
+  const std::size_t limit = text.size() + kLongestText;
+  Seam seam(text);
+  std::size_t fresh = 0;  // how much of what lies ahead can hold keys that were not in the text
+  std::size_t made = 0;   // bytes put in for such keys, by a value that is no shorter than they are
+  for (std::size_t at = 0; (at = seam.ahead().find(key)) != kNone;) {
+    if (at < fresh && value->size() >= key.size()) made += value->size();
+    if (made > kMostAtJoints || seam.size() > limit) return Replaced::Endless;
+    seam.pass(at);
+    seam.drop(key.size());
+    seam.push(*value);
+    fresh = value->size() + seam.takeBack(key.size() - 1);
   }
+  text = seam.whole();
   return Replaced::Done;
 }
 
 Replaced SubstituteTagAware(std::string& text, std::string_view key, const Value& value) {
-  const bool removes = !value || value->empty();
-  std::size_t at = 0;
-  while ((at = text.find(key, at)) != kNone) {
-    if (!removes) {
-      text.replace(at, key.size(), *value);
-      at += value->size();
-      continue;
-    }
-    const std::size_t angle = angleBefore(text, at);
-    if (text[angle] == '>') {
-      text.erase(at, key.size());
-      at = searchBehind(at, key);
-      continue;
-    }
-    const std::size_t end = text.find('>', at);
-    if (end == kNone) return Replaced::Endless;
-    text.erase(angle, end + 1 - angle);
-    at = searchBehind(angle, key);
-  }
+  if (key.empty() || text.find(key) == kNone) return Replaced::Done;
+  if (!value || value->empty()) return removeTagAware(text, key);
+  std::size_t count = 0;
+  for (std::size_t at = text.find(key); at != kNone; at = text.find(key, at + key.size())) ++count;
+  if (count * value->size() > kLongestText) return Replaced::Endless;
+  replaceForward(text, key, *value);
   return Replaced::Done;
 }
 

@@ -22,6 +22,10 @@ using Value = std::optional<std::string_view>;
 // that showed.
 enum class Replaced { Done, Endless };
 
+// A replacement that adds more than this to a text counts as endless: values that hold the keys of
+// others can multiply without bounds.
+inline constexpr std::size_t kLongestText = 64 * 1024 * 1024;
+
 // Replaces the first `key` at or behind `start`. Gives the position just behind the value; npos, and
 // nothing is changed, when the key is not there or empty or the value absent.
 std::size_t ReplaceFirst(std::string& text, std::string_view key, const Value& value, std::size_t start = 0);
@@ -35,7 +39,7 @@ inline void ReplaceFour(std::string& text, std::string_view key, const Value& va
 }
 
 // Replaces the first `key`, again and again from the front, until there is none. Endless for a value
-// that holds the key itself.
+// that holds the key itself, and for one that goes on making it at its joints to the text.
 [[nodiscard]] Replaced ReplaceAll(std::string& text, std::string_view key, const Value& value);
 
 // The mode for optional attributes. With a value every key becomes it, and the value is not searched

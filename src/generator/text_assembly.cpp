@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "generator/replace.h"
+
 namespace varlo {
 namespace {
 
@@ -145,7 +147,7 @@ bool TextAssembly::holdsOnlyKnownKeys(std::string_view result) const {
   return true;
 }
 
-std::size_t TextAssembly::size() const {
+std::size_t TextAssembly::filledSize() const {
   std::size_t size = 0;
   for (const Segment& segment : segments_) {
     size += segment.value.size() + segment.end - segment.begin;
@@ -156,7 +158,9 @@ std::size_t TextAssembly::size() const {
 }
 
 bool TextAssembly::finish(std::string& result, std::size_t from) {
-  result.resize(from + size());
+  const std::size_t size = filledSize();
+  if (size > prepared_->text.size() + kLongestText) return false;
+  result.resize(from + size);
   char* at = result.data() + from;
   const auto put = [&at](std::string_view piece) { at = std::copy(piece.begin(), piece.end(), at); };
   for (const Segment& segment : segments_) {

@@ -68,8 +68,8 @@ class TextAssembly {
   [[nodiscard]] bool findAngleBefore(std::size_t segment, Position& angle) const;
   [[nodiscard]] bool findTagEnd(std::size_t segment, std::uint32_t keySize, Position& end) const;
   [[nodiscard]] bool cut(const Position& from, const Position& to);
+  [[nodiscard]] std::size_t filledSize() const;
   [[nodiscard]] bool holdsOnlyKnownKeys(std::string_view result) const;
-  [[nodiscard]] std::size_t size() const;
 
   const FillPlan* plan_ = nullptr;
   const PreparedText* prepared_ = nullptr;
