@@ -15,18 +15,13 @@ namespace {
 constexpr std::size_t kNone = std::string::npos;
 constexpr std::size_t kDisplayedTitle = 500;
 
-struct Reference {
-  std::string_view name;
-  char byte;
-};
-
-constexpr std::array<Reference, 4> kBasic{{{"&quot;", '"'}, {"&amp;", '&'}, {"&lt;", '<'}, {"&gt;", '>'}}};
+constexpr std::array<HtmlReference, 4> kBasic{{{"&quot;", '"'}, {"&amp;", '&'}, {"&lt;", '<'}, {"&gt;", '>'}}};
 
 constexpr char operator""_byte(unsigned long long code) { return static_cast<char>(code); }
 
 // In the order in which they are tried; the first thirty are compared with case.
 constexpr std::size_t kExactReferences = 30;
-constexpr std::array<Reference, 94> kReferences{{
+constexpr std::array<HtmlReference, 94> kReferences{{
     {"&ETH;", 208_byte},    {"&Auml;", 196_byte},   {"&Euml;", 203_byte},   {"&Iuml;", 207_byte},
     {"&Uuml;", 220_byte},   {"&Ouml;", 214_byte},   {"&Acirc;", 194_byte},  {"&Aring;", 197_byte},
     {"&AElig;", 198_byte},  {"&Ecirc;", 202_byte},  {"&Icirc;", 206_byte},  {"&Ucirc;", 219_byte},
@@ -94,7 +89,7 @@ class Decoder {
   }
 
   bool decodeBasic() {
-    for (const Reference& reference : kBasic) {
+    for (const HtmlReference& reference : kBasic) {
       if (!startsNoCase(std::string_view(text_).substr(at_), reference.name)) continue;
       text_.replace(at_, reference.name.size(), 1, reference.byte);
       ++at_;
@@ -106,7 +101,7 @@ class Decoder {
   // Deliberate: an entry that does not stand here is looked for further on and decoded there.
   bool decodeNamed() {
     for (std::size_t i = 0; i < kReferences.size(); ++i) {
-      const Reference& entry = kReferences[i];
+      const HtmlReference& entry = kReferences[i];
       const std::string_view rest = std::string_view(text_).substr(at_);
       if (i < kExactReferences ? rest.starts_with(entry.name) : startsNoCase(rest, entry.name)) continue;
       const std::size_t found = FindNoCase(text_, entry.name, at_);
@@ -138,6 +133,8 @@ std::string_view altText(std::string_view title) {
 }
 
 }  // namespace
+
+std::span<const HtmlReference> HtmlReferences() { return kReferences; }
 
 // Deliberate: the search for the end starts at the "<", so a quote that stands in front of it does not
 // count. What was kept holds no "<", so one pass does what a search from the start again would do.

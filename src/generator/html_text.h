@@ -1,11 +1,22 @@
 // The plain text of a title that may hold HTML, for trees, lists and meta tags. Bytes are ISO 8859-1.
 #pragma once
 
+#include <span>
 #include <string>
+#include <string_view>
 
 namespace varlo {
 
 struct StoreNode;
+
+// A character reference and the byte that it stands for.
+struct HtmlReference {
+  std::string_view name;
+  char byte;
+};
+
+// Every named reference but the basic four, in the order in which they are tried.
+[[nodiscard]] std::span<const HtmlReference> HtmlReferences();
 
 // Removes the tags of a text: each from its "<" through the next ">" outside quotes. A "<" without one
 // ends the work and stays, with the rest.
