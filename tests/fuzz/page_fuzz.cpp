@@ -20,6 +20,7 @@
 #include "core/scheme.h"
 #include "core/store_tree.h"
 #include "core/user_variable.h"
+#include "generator/generator.h"
 #include "generator/page_walk.h"
 #include "generator/user_variables.h"
 #include "tests/fuzz/plain_project.h"
