@@ -159,7 +159,7 @@ for (const way of ['http', 'file']) {
       await store.frames.main.waitForURL(/second\.htm$/);
       await store.add('MIX');
       await eventually(store.lines, ["Chef Anton's Cajun Mix | 2 | $39.90"]);
-      await store.page.goBack();
+      await store.frames.main.evaluate(() => history.back());
       await store.frames.main.waitForURL(/page\.htm$/);
       await store.add('BOWL');
       await store.count(2);
