@@ -283,9 +283,253 @@ for (const way of ['http', 'file']) {
       assert.match(Object.fromEntries(orders.orders[0]).OrderToken, /^[0-9a-f]{24}$/);
       assert.equal(orders.headers[0].origin, way === 'file' ? 'null' : store.root);
 
-      // The confirmation survives a reload of its frame; Back leads to the shop, and the next order is another one.
+      // The confirmation survives a reload of its frame.
       await store.frames.main.evaluate(() => location.reload());
       await eventually(() => store.text('.order-number'), 'Your order number is 1001.');
     });
+
+    // A cart of one bowl to Australia (2: 9 and 1.50), with the form filled in.
+    async function readyToSend(t, setting) {
+      const store = await openStore(t, way, setting);
+      await store.add('BOWL');
+      await store.count(1);
+      await store.checkout();
+      if (await store.frames.main.$('#order-region')) await store.frames.main.selectOption('#order-region', 'AU');
+      await store.fill(customer);
+      return store;
+    }
+    const stillThere = ['Bowl & spoon | 1 | $34.50'];
+
+    test('keeps cart and entries when the server refuses, and sends the same order again', async (t) => {
+      const store = await readyToSend(t);
+      orders.answer = () => refused('The card was declined.');
+      await store.frames.main.click('.send');
+      await eventually(() => store.text('.status'), 'The card was declined.');
+      assert.deepEqual(await store.lines(), stillThere);
+      assert.equal(await store.frames.main.inputValue('[name=CardNumber]'), customer.CardNumber);
+      orders.answer = () => accepted('7');
+      await store.frames.main.click('.send');
+      await eventually(() => store.text('.order-number'), 'Your order number is 7.');
+      await eventually(store.lines, []);
+      const tokens = orders.orders.map((order) => Object.fromEntries(order).OrderToken);
+      assert.equal(tokens.length, 2);
+      assert.equal(tokens[0], tokens[1]);
+      await store.frames.main.click('text=Back to the shop');
+      await eventually(() => store.frames.main.url().endsWith('page.htm'), true);
+      await store.add('MIX');
+      await store.count(1);
+      await store.checkout();
+      await store.fill(customer);
+      await store.frames.main.click('.send');
+      await eventually(() => orders.orders.length, 3);
+      assert.notEqual(Object.fromEntries(orders.orders[2]).OrderToken, tokens[0]);
+    });
+
+    test('shows the page of a server that knows nothing of the shop, and asks', async (t) => {
+      const store = await readyToSend(t);
+      orders.answer = () => plainPage('We have got your order.');
+      await store.frames.main.click('.send');
+      await eventually(() => store.text('.status'), 'This is the answer of the order server. Was your order taken?');
+      assert.equal(await store.frames.main.isVisible('iframe[name=orderanswer]'), true);
+      assert.equal(await store.page.frame({ name: 'orderanswer' }).textContent('p'), 'We have got your order.');
+      await store.frames.main.click('text=No, back to the form');
+      assert.equal(await store.frames.main.isVisible('iframe[name=orderanswer]'), false);
+      assert.deepEqual(await store.lines(), stillThere);
+      await store.frames.main.click('.send');
+      await store.frames.main.click('text=Yes, finish');
+      await eventually(() => store.frames.main.url().endsWith('register.html?confirm'), true);
+      await eventually(store.lines, []);
+    });
+
+    test('does not send an order twice while the server thinks', async (t) => {
+      const store = await readyToSend(t);
+      orders.answer = () => null;
+      await store.frames.main.click('.send');
+      await eventually(() => orders.orders.length, 1);
+      assert.equal(await store.frames.main.isDisabled('.send'), true);
+      await store.frames.main.focus('[name=Name]');
+      await store.page.keyboard.press('Enter');
+      assert.equal(await store.text('.status'), 'Your order is being sent. Please wait.');
+      assert.equal(orders.orders.length, 1);
+      assert.deepEqual(await store.lines(), stillThere);
+    });
+
+    test('keeps entries over a reload of the form, but none of the card', async (t) => {
+      const store = await readyToSend(t);
+      await store.page.keyboard.press('Tab');
+      await store.frames.main.evaluate(() => location.reload());
+      await eventually(() => store.frames.main.inputValue('[name=City]'), customer.City);
+      await store.frames.main.waitForSelector('.order-items');
+      for (const name of ['CardName', 'CardNumber', 'CardExpiry']) assert.equal(await store.frames.main.inputValue(`[name=${name}]`), '');
+      const stored = await store.frames.main.evaluate(() => JSON.stringify(sessionStorage));
+      assert.match(stored, /Ana Trujillo/);
+      assert.doesNotMatch(stored, /4111/);
+      await store.frames.main.evaluate(() => history.back());
+      await eventually(() => store.frames.main.url().endsWith('page.htm'), true);
+    });
+
+    test('puts https in front of a server without a scheme', async (t) => {
+      const store = await readyToSend(t, { changes: { server: 'orders.example/take' } });
+      const seen = [];
+      await store.page.route('https://orders.example/**', (route) => {
+        seen.push(route.request().method() + ' ' + route.request().url());
+        return route.fulfill({ contentType: 'text/html', body: accepted('8').page });
+      });
+      await store.frames.main.click('.send');
+      await eventually(() => store.text('.order-number'), 'Your order number is 8.');
+      assert.deepEqual(seen, ['POST https://orders.example/take']);
+    });
+
+    test('does not pretend to send without a server, and warns of one without encryption', async (t) => {
+      const none = await readyToSend(t, { changes: { server: '' } });
+      await none.frames.main.click('.send');
+      assert.equal(await none.text('.status'), 'This store has no order server yet, so the order cannot be sent.');
+      const port = await readyToSend(t, { changes: { server: 'orders.example:8443/take' } });
+      await port.frames.main.click('.send');
+      assert.equal(await port.text('.status'), 'This store has no order server yet, so the order cannot be sent.');
+      const open = await readyToSend(t, { changes: { server: 'http://orders.example/take' } });
+      assert.match(await open.text('form > .problem'), /without encryption/);
+    });
+
+    test('sells without delivery tables and in a currency that is a word', async (t) => {
+      const store = await openStore(t, way, { changes: { freight: '', currency: 'AUD' } });
+      await store.add('BOWL');
+      await eventually(store.costs, ['Subtotal AUD 34.50', 'Delivery AUD 1.50']);
+      assert.equal(await store.total(), 'Total AUD 36.00');
+      assert.equal(await store.frames.trolley.$('#region'), null);
+      await store.checkout();
+      await store.fill(customer);
+      await store.frames.main.click('.send');
+      await eventually(() => store.text('tr.total td'), 'AUD 36.00');
+      const posted = Object.fromEntries(orders.orders[0]);
+      assert.deepEqual([posted.Region, posted.Method, posted.Total, posted.Currency], ['', '', '36.00', 'AUD']);
+    });
+
+    test('has nothing to order or to confirm with an empty cart', async (t) => {
+      const store = await openStore(t, way);
+      await store.frames.main.evaluate(() => { location.href = 'register.html?order'; });
+      await eventually(() => store.text('.notice'), 'Your cart is empty.');
+      assert.equal(await store.frames.main.isVisible('.send'), false);
+      await store.frames.main.evaluate(() => { location.href = 'register.html?confirm'; });
+      await eventually(() => store.text('p'), 'No order has been sent yet.');
+    });
+
+    test('an item whose price is no number is told and cannot be ordered', async (t) => {
+      const store = await openStore(t, way, { goods: [{ code: 'X', title: 'Antique', price: 'on request' }] });
+      await store.add('X');
+      await eventually(() => store.frames.trolley.textContent('p.problem'), 'The price "on request" of item X is not a number with at most 9 digits and 4 decimals.');
+      await store.checkout();
+      await store.fill(customer);
+      await store.frames.main.click('.send');
+      assert.equal(await store.text('.status'), 'Please choose where to deliver to.');
+      await store.frames.main.selectOption('#order-region', 'AU');
+      await store.frames.main.waitForSelector('#order-method');
+      await store.frames.main.click('.send');
+      assert.match(await store.text('.status'), /^The price "on request" of item X is not a number/);
+      assert.deepEqual(orders.orders, []);
+    });
+
+    test('shows an order form without a form, or with a script of its own, as a problem and not as a ruin', async (t) => {
+      const store = await openStore(t, way, { changes: { orderTemplate: '<p>Call us</p>' } });
+      await store.frames.main.evaluate(() => { location.href = 'register.html?order'; });
+      await eventually(() => store.text('[role=alert]'), 'The order form has no form in it.');
+      const scripted = await openStore(t, way, { changes: { orderTemplate: '<form><script>var x = "1";</script></form>' } });
+      await scripted.frames.main.evaluate(() => { location.href = 'register.html?order'; });
+      await eventually(() => scripted.text('[role=alert]'), 'This template holds a script of its own, which cannot be shown here.');
+    });
+
+    test('hears the frames of the shop and no one else', async (t) => {
+      const store = await openStore(t, way);
+      const forged = { shop: 'add', args: ['p.htm', 'EVIL', 'Forged', '0.01', '', 1, '0', '0', '0'] };
+      await store.page.evaluate((m) => { window.frames.shopregister.postMessage(m, '*'); window.frames.shoptrolley.postMessage({ shop: 'cart', view: {} }, '*'); }, forged);
+      await store.add('MIX');
+      await eventually(store.lines, ["Chef Anton's Cajun Mix | 1 | $19.95"]);
+    });
+
+    test('shows the scheme\'s headings, and words where the picture is missing', async (t) => {
+      const store = await openStore(t, way, { changes: { heading2: "<IMG SRC='img/mix.gif'><BR>", heading3: '<b>Till</b>' } });
+      await eventually(() => store.frames.trolley.getAttribute('#heading img', 'alt'), 'Your cart');
+      assert.equal(await store.frames.register.textContent('.heading'), 'Till');
+      const missing = await openStore(t, way, { changes: { heading2: '<IMG SRC="img/none.gif"><BR>' } });
+      await eventually(() => missing.frames.trolley.textContent('#heading'), 'Your cart');
+      missing.errors.length = 0;   // the picture that is missing on purpose
+    });
+
+    test('is readable on a dark cart whose scheme sets no text colour', async (t) => {
+      const store = await openStore(t, way, { changes: { cart: { ...defaultStore.cart, background: '#202020', text: undefined }, list: '#C3C3C3' } });
+      await store.add('MIX');
+      await store.count(1);
+      assert.equal(await store.frames.trolley.evaluate(() => getComputedStyle(document.body).color), 'rgb(255, 255, 255)');
+      assert.equal(await store.frames.trolley.$eval('li', (row) => getComputedStyle(row).color), 'rgb(0, 0, 0)');
+      assert.equal(await store.frames.register.$eval('.sum', (sum) => getComputedStyle(sum).color), 'rgb(255, 255, 255)');
+    });
   });
 }
+
+describe('the cart over http alone', () => {
+  beforeEach(() => { orders.orders.length = 0; orders.answer = () => accepted('1'); });
+
+  test('keeps a click that comes before the register frame is there', async (t) => {
+    const folder = buildSite(path.join(scratch, 'late'), { server: orders.address, freight }, products);
+    const server = await serveFolder(folder, { 'register.html': 1500 });
+    t.after(() => server.close());
+    const page = await browser.newPage();
+    t.after(() => page.close());
+    await page.goto(server.address + '/index.html', { waitUntil: 'commit' });
+    await eventually(async () => Boolean(await framesOf(page).main.$('#MIX .add')), true);
+    await framesOf(page).main.click('#MIX .add', { noWaitAfter: true });
+    await eventually(() => framesOf(page).trolley.textContent('#cart li a'), "Chef Anton's Cajun Mix");
+  });
+
+  test('takes items from pages without the page script', async (t) => {
+    const store = await openStore(t, 'http', { options: { withScript: false } });
+    await store.add('BOWL');
+    await store.count(1);
+    await store.frames.main.click('#BOWL .remove');
+    await store.count(0);
+    assert.match(store.frames.main.url(), /page\.htm$/);
+  });
+
+  test('confirms when the server sends its answer on to ConfirmURL', async (t) => {
+    const store = await openStore(t, 'http');
+    await store.add('BOWL');
+    await store.count(1);
+    await store.checkout();
+    await store.frames.main.selectOption('#order-region', 'AU');
+    await store.fill(customer);
+    orders.answer = (order) => ({ goTo: order.ConfirmURL + '&order=A-77' });
+    await store.frames.main.click('.send');
+    await eventually(() => store.text('.order-number'), 'Your order number is A-77.');
+    await eventually(store.lines, []);
+  });
+
+  test('becomes a bar at the foot of a narrow window', async (t) => {
+    const store = await openStore(t, 'http');
+    await store.page.setViewportSize({ width: 390, height: 844 });
+    const width = (frame) => frame.evaluate(() => innerWidth + ' x ' + innerHeight);
+    await eventually(() => width(store.frames.main), '390 x 780');
+    await store.add('MIX');
+    await eventually(() => store.frames.register.textContent('.view'), 'Cart (1)');
+    await store.frames.register.click('.view');
+    await eventually(() => width(store.frames.main), '390 x 211');
+    await store.frames.trolley.click(`[aria-label="One more of Chef Anton's Cajun Mix"]`);
+    await eventually(() => store.frames.register.textContent('.view'), 'Hide cart (2)');
+    await store.frames.register.click('.checkout');
+    await store.frames.main.waitForSelector('.order-items');
+    await eventually(() => width(store.frames.main), '390 x 780');
+    assert.equal(await store.frames.main.evaluate(() => document.documentElement.scrollWidth), 390);
+    await store.page.setViewportSize({ width: 1280, height: 800 });
+    await eventually(() => width(store.frames.main), '1072 x 800');
+    await eventually(() => width(store.frames.register), '208 x 110');
+  });
+
+  test('shows the register page itself only in the shop', async (t) => {
+    const store = await openStore(t, 'http', { start: 'index.html' });
+    const page = await browser.newPage();
+    t.after(() => page.close());
+    await page.goto(store.root + '/register.html');
+    await page.waitForURL(/index\.html$/);
+    await page.goto(store.root + '/trolley.html');
+    await page.waitForURL(/index\.html$/);
+  });
+});
