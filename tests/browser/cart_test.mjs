@@ -368,6 +368,13 @@ for (const way of ['http', 'file']) {
       await eventually(() => store.frames.main.url().endsWith('page.htm'), true);
     });
 
+    test('the checkout button leaves a form alone that is open already', async (t) => {
+      const store = await readyToSend(t);
+      await store.frames.register.click('.checkout');
+      await new Promise((r) => setTimeout(r, 600));
+      assert.equal(await store.frames.main.inputValue('[name=CardNumber]'), customer.CardNumber);
+    });
+
     test('puts https in front of a server without a scheme', async (t) => {
       const store = await readyToSend(t, { changes: { server: 'orders.example/take' } });
       const seen = [];
