@@ -19,9 +19,9 @@ const times = (text, key, value, most) => {
 };
 
 export const defaultStore = {
-  title: 'Northwind Kitchen',
+  title: 'Corner Kitchen',
   server: '127.0.0.1',
-  account: 'NK-42',
+  account: 'CK-42',
   currency: '$',
   freight: '',
   cards: ['Visa', 'MasterCard', 'American Express'],
