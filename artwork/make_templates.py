@@ -10,6 +10,7 @@ import sys
 HERE = pathlib.Path(__file__).resolve().parent / "templates"
 SETS = {"": "plain", "meadow": "meadow", "gallery": "gallery", "market": "market"}
 PAGES = ("category.htm", "product.htm", "shelf.htm", "list.htm")
+FORMS = ("order.htm", "confirm.htm")  # written by hand for the default set, and the same in all others
 
 
 def read(name):
@@ -42,6 +43,8 @@ def main(installation):
             text = page(name, style)
             check(f"{folder}/{name}", text)
             (target / name).write_bytes(text.encode("cp1252"))
+        for name in FORMS if folder else ():
+            (target / name).write_bytes((target.parent / name).read_bytes())
 
 
 if __name__ == "__main__":

@@ -70,6 +70,9 @@ for set in '' $sets; do
   for page in category product shelf list order confirm; do
     [ -s "$folder/$page.htm" ] || fail "no $folder/$page.htm"
   done
+  for page in order confirm; do
+    cmp "template/$page.htm" "$folder/$page.htm" || fail "$folder/$page.htm is not the default form"
+  done
   for page in category product shelf list; do
     file=$folder/$page.htm
     [ "$(wc -c <"$file")" -lt 100000 ] || fail "$file is too long"
