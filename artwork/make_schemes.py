@@ -92,7 +92,7 @@ def slots(style, colours):
 
 
 def catalogue():
-    lines = ["product=Varlo PRO", "version=1.07"]
+    lines = ["product=Varlo PRO", "version=1.07", "template=1.07"]
     for name, style in STYLES.items():
         lines += ["", f"SCHEMA={name}", f"DEF={style['folder']}", "#CAT"]
         for scheme, colours in SCHEMES[name].items():
