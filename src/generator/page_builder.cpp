@@ -22,9 +22,12 @@ int PageBuilder::build(StoreNode* node) {
   const PageTemplate* source = templates_.read(*node);
   if (source == nullptr) return 1;
   const std::string* shelf = takeShelf(*source, *node);
-  const TextSigns signs = fill(*source, *node, shelf) ? quick_.signs() : TextSigns::all();
-  if (signs.plusComment) OpenPlusComment(page_);
-  return write(*node, signs);
+  TextSigns::Found found = fill(*source, *node, shelf) ? quick_.signs().found : TextSigns::kAll;
+  if (found.plusComment) {
+    OpenPlusComment(page_);
+    found = TextSigns::kAll;  // what stood around the marks may have joined to others
+  }
+  return write(*node, found);
 }
 
 void PageBuilder::tellProgress(const StoreNode& node) {
@@ -72,7 +75,7 @@ bool PageBuilder::fill(const PageTemplate& source, StoreNode& node, const std::s
   return false;
 }
 
-int PageBuilder::write(StoreNode& node, const TextSigns& signs) {
+int PageBuilder::write(StoreNode& node, const TextSigns::Found& found) {
   Files& files = generator_.program.files;
   path_.assign(generator_.program.project.webDir.view()).append("\\").append(node.fileName.view());
   OpenFile file(files, files.create(path_));
@@ -80,8 +83,8 @@ int PageBuilder::write(StoreNode& node, const TextSigns& signs) {
     ErrorBox(generator_.program, message::kPageCreateError);
     return 0;
   }
-  if (signs.shelfMark) RemoveShelfMarks(page_);
-  if (signs.comment && !RemoveComments(page_)) {
+  if (found.shelfMark) RemoveShelfMarks(page_);
+  if ((found.comment || found.shelfMark) && !RemoveComments(page_)) {
     LogError(generator_.log, FillMessage(message::kEndlessComment, node.fileName.view()));
   }
   if (!page_.empty()) files.write(file.handle(), page_.data(), page_.size());

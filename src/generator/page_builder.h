@@ -23,7 +23,7 @@ class PageBuilder {
   [[nodiscard]] const std::string* takeShelf(const PageTemplate& source, StoreNode& node);
   void appendItem(const PageTemplate& source, StoreNode& item, const StoreNode& page);
   bool fill(const PageTemplate& source, StoreNode& node, const std::string* shelf);
-  int write(StoreNode& node, const TextSigns& signs);
+  int write(StoreNode& node, const TextSigns::Found& found);
 
   Generator& generator_;
   ItemValues values_;

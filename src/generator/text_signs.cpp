@@ -60,15 +60,15 @@ void TextSigns::look(std::string_view text, std::size_t at) {
       if (standsAt(text, at, kX, kLetterPage)) keys.push_back(at - kX);
       break;
     case '!':
-      if (standsAt(text, at, 1, kCommentOpen)) comment = true;
-      if (standsAt(text, at, 1, kPlusOpen)) plusComment = true;
+      if (standsAt(text, at, 1, kCommentOpen)) found.comment = true;
+      if (standsAt(text, at, 1, kPlusOpen)) found.plusComment = true;
       break;
     case '+':
-      if (standsAt(text, at, 0, kPlusClose)) plusComment = true;
+      if (standsAt(text, at, 0, kPlusClose)) found.plusComment = true;
       break;
     case 'f':
     case 'F':
-      if (at >= 5 && EqualsNoCase(text.substr(at - 4, 6), "SHELF>")) shelfMark = true;
+      if (at >= 5 && EqualsNoCase(text.substr(at - 4, 6), "SHELF>")) found.shelfMark = true;
       break;
     default:
       break;
@@ -82,8 +82,8 @@ void TextSigns::lookAtEach(std::string_view text, std::size_t from, std::size_t 
 }
 
 void TextSigns::find(std::string_view text, std::size_t from) {
-  *this = TextSigns{std::move(keys), false, false, false};
   keys.clear();
+  found = {};
   if (text.size() <= from) return;
   // The last byte has no next one, and is looked at by itself.
   const std::size_t end = text.size() - 1;

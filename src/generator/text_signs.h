@@ -9,16 +9,19 @@
 namespace varlo {
 
 struct TextSigns {
-  std::vector<std::size_t> keys;  // where a key may begin: each "$" and each letter page
-  bool comment = false;           // a "<!--"
-  bool plusComment = false;       // a "<!--+" or a "+-->"
-  bool shelfMark = false;         // the end of a "<SHELF>" or "</SHELF>"
-
-  // The signs of `text` from `from` on, instead of what was found before.
-  void find(std::string_view text, std::size_t from);
-
+  struct Found {
+    bool comment = false;      // a "<!--"
+    bool plusComment = false;  // a "<!--+" or a "+-->"
+    bool shelfMark = false;    // the end of a "<SHELF>" or "</SHELF>"
+  };
   // What is to be assumed of a text that was not searched.
-  [[nodiscard]] static TextSigns all() { return {{}, true, true, true}; }
+  static constexpr Found kAll{true, true, true};
+
+  std::vector<std::size_t> keys;  // where a key may begin: each "$" and each letter page
+  Found found;
+
+  // Looks for the signs of `text` from `from` on, instead of what was found before.
+  void find(std::string_view text, std::size_t from);
 
  private:
   void look(std::string_view text, std::size_t at);
