@@ -3,6 +3,7 @@
 #include "core/number_text.h"
 #include "core/paths.h"
 #include "core/program.h"
+#include "core/scheme.h"
 #include "core/store_node.h"
 #include "generator/build_messages.h"
 #include "generator/build_target.h"
@@ -46,10 +47,14 @@ int makeDirectories(Generator& generator, std::string_view directory) {
   return 1;
 }
 
-// Deliberate: a store without a scheme gets the first style itself, not a scheme of it.
+// A store without a scheme gets the first one of the first style, as everywhere; a style without schemes
+// serves as one itself.
 int chooseScheme(Generator& generator) {
   Program& program = generator.program;
-  if (program.project.projectScheme == nullptr) program.project.projectScheme = program.config.schemeStyles;
+  SchemeStyle* style = program.config.schemeStyles;
+  if (program.project.projectScheme == nullptr && style != nullptr) {
+    program.project.projectScheme = style->schemes != nullptr ? style->schemes : style;
+  }
   if (program.project.projectScheme != nullptr) return 1;
   LogBuild(generator.log, message::kNoBuildScheme);
   LogBuild(generator.log, message::kBuildStopped);

@@ -268,13 +268,20 @@ TEST_F(Build, TheErrorOfADirectoryAddsToTheCountOfTheBuildBefore) {
 
 // The scheme.
 
-TEST_F(Build, WithoutASchemeOfItsOwnTheFirstStyleItselfIsTaken) {
+TEST_F(Build, WithoutASchemeOfItsOwnTheFirstOfTheFirstStyleIsTaken) {
   SchemeRecord* first = t.config().schemeStyles;
   first->schemes = SchemeInit(nullptr);
   t.addStyle("Second");
   project.projectScheme = nullptr;
   EXPECT_EQ(build(), 1);
-  EXPECT_EQ(project.projectScheme, first);
+  EXPECT_EQ(project.projectScheme, first->schemes);
+}
+
+TEST_F(Build, WithoutASchemeOfItsOwnAFirstStyleWithoutSchemesServesAsOne) {
+  t.addStyle("Second");
+  project.projectScheme = nullptr;
+  EXPECT_EQ(build(), 1);
+  EXPECT_EQ(project.projectScheme, t.config().schemeStyles);
 }
 
 TEST_F(Build, WithoutAnySchemeItStopsUncountedAndTheDirectoryStays) {
