@@ -82,7 +82,7 @@ class Shop {
     checkVariablesQuietly();
     BuildSiblings(generator_, t_.project().root);
     generator_.log.stopRequested = false;
-    for (StoreNode* node : nodes_) BuildPage(generator_, node);
+    if (!nodes_.empty()) BuildPage(generator_, nodes_.back());  // as a preview does, whatever its status
   }
 
   // All that pages leave behind.

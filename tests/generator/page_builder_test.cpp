@@ -117,6 +117,15 @@ TEST_F(PageBuilderTest, ANodeWithoutAFileNameWouldGoToTheWebDirectoryItself) {
   EXPECT_EQ(t.screen.boxes.size(), 1U);
 }
 
+TEST_F(PageBuilderTest, WithoutATemplateThePageIsMadeFromTheOneBefore) {
+  EXPECT_EQ(BuildPage(t.generator, t.ball), 1);
+  EXPECT_EQ(t.files.content("C:\\Web\\2.htm"), "") << "if there was none ever, from an empty text";
+  category("former $TITLE");
+  EXPECT_EQ(BuildPage(t.generator, t.ball), 1);
+  EXPECT_EQ(t.site("2.htm"), "former Ball");
+  EXPECT_THAT(t.window.lines, IsEmpty());
+}
+
 TEST_F(PageBuilderTest, AnOldPageIsReplacedAsAWhole) {
   t.files.put("C:\\Web\\1.htm", std::string(1000, 'o'));
   EXPECT_EQ(category("new"), "new");
