@@ -58,6 +58,14 @@ class Seam {
   std::size_t begin_ = 0;  // of what lies ahead
 };
 
+// Whether the value in the place of every key adds more than a text may grow by.
+bool growsTooMuch(const std::string& text, std::string_view key, std::string_view value) {
+  if (value.size() <= key.size()) return false;
+  std::size_t count = 0;
+  for (std::size_t at = text.find(key); at != kNone; at = text.find(key, at + key.size())) ++count;
+  return count * (value.size() - key.size()) > kLongestText;
+}
+
 void replaceForward(std::string& text, std::string_view key, std::string_view value) {
   std::string result;
   std::size_t done = 0;
@@ -141,7 +149,7 @@ void ReplaceUpTo(int times, std::string& text, std::string_view key, const Value
 // for longer than anyone can wait.
 Replaced ReplaceAll(std::string& text, std::string_view key, const Value& value) {
   if (!value || key.empty() || text.find(key) == kNone) return Replaced::Done;
-  if (value->find(key) != kNone) return Replaced::Endless;
+  if (value->find(key) != kNone || growsTooMuch(text, key, *value)) return Replaced::Endless;
   const std::size_t limit = text.size() + kLongestText;
   Seam seam(text);
   std::size_t fresh = 0;  // how much of what lies ahead can hold keys that were not in the text
@@ -161,9 +169,7 @@ Replaced ReplaceAll(std::string& text, std::string_view key, const Value& value)
 Replaced SubstituteTagAware(std::string& text, std::string_view key, const Value& value) {
   if (key.empty() || text.find(key) == kNone) return Replaced::Done;
   if (!value || value->empty()) return removeTagAware(text, key);
-  std::size_t count = 0;
-  for (std::size_t at = text.find(key); at != kNone; at = text.find(key, at + key.size())) ++count;
-  if (count * value->size() > kLongestText) return Replaced::Endless;
+  if (growsTooMuch(text, key, *value)) return Replaced::Endless;
   replaceForward(text, key, *value);
   return Replaced::Done;
 }

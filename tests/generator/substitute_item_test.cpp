@@ -298,16 +298,17 @@ TEST_F(SubstituteItemTest, ATitleOrABodyMayQuoteItsOwnName) {
 }
 
 TEST_F(SubstituteItemTest, ValuesThatMultiplyEndAsAnEndlessReplacement) {
-  std::string many;
-  for (int i = 0; i < 3000; ++i) many += "$CODE";
-  t.ball->cost.assign(std::string_view(many));
-  many.clear();
-  for (int i = 0; i < 3000; ++i) many += "$TAX";
-  t.ball->productCode.assign(std::string_view(many));
-  t.ball->tax.assign("01234567890123456789");
+  const auto repeated = [](int times, const char* key) {
+    std::string text;
+    for (int i = 0; i < times; ++i) text += key;
+    return text;
+  };
+  t.ball->cost.assign(std::string_view(repeated(100, "$CODE")));
+  t.ball->productCode.assign(std::string_view(repeated(1000, "$TAX")));
+  t.ball->tax.assign(std::string_view(repeated(1000, "x")));
   const Filled filled = fill("$COST");
   EXPECT_THAT(filled.lines, ElementsAre("error: 2.htm: endless replacement of '$TAX'"));
-  EXPECT_EQ(filled.text.size(), 3000U * 3000U * 4U);
+  EXPECT_EQ(filled.text, repeated(100000, "$TAX"));
 }
 
 // Without a scheme.
