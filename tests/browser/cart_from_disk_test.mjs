@@ -1,0 +1,3 @@
+import { cartTests } from './cart_tests.mjs';
+
+cartTests('file');

@@ -1,0 +1,3 @@
+import { storeTests } from './store_tests.mjs';
+
+storeTests('http');
