@@ -75,17 +75,6 @@ TEST(FillPlan, KnowsHowOftenEachKeyIsReplaced) {
   }
 }
 
-TEST(FillPlan, FitsAsLongAsTheNamesOfTheVariablesAreTheSame) {
-  const Variables variables{"$ONE", "", "$TWO"};
-  const FillPlan plan(variables.head());
-  EXPECT_TRUE(plan.fits(variables.head()));
-  EXPECT_TRUE(plan.fits(Variables{"$ONE", "", "$TWO"}.head()));
-  EXPECT_FALSE(plan.fits(Variables{"$ONE", ""}.head()));
-  EXPECT_FALSE(plan.fits(Variables{"$ONE", "", "$TWO", "$THREE"}.head()));
-  EXPECT_FALSE(plan.fits(Variables{"$ONE", "", "$two"}.head()));
-  EXPECT_FALSE(plan.fits(nullptr));
-}
-
 TEST(FillPlan, IsQuickForNamesThatBeginWithTheirOnlyDollarSign) {
   EXPECT_TRUE(FillPlan(nullptr).isQuick());
   EXPECT_TRUE(FillPlan(Variables{"$ONE", "", "$x y", "$-"}.head()).isQuick());

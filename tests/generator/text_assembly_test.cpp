@@ -29,7 +29,7 @@ std::string assemble(std::string_view text, const Values& values) {
     }
   }
   std::string result = "before ";
-  if (!assembly.finish(result)) return "(refused)";
+  if (!assembly.finish(result, result.size())) return "(refused)";
   EXPECT_EQ(result.substr(0, 7), "before ") << "the text is appended";
   return result.substr(7);
 }
@@ -94,7 +94,7 @@ TEST(TextAssembly, AValueCanComeInPieces) {
   assembly.fill(prepared.uses[0], parts);
   parts = {"a", "", "c"};
   std::string result;
-  EXPECT_TRUE(assembly.finish(result)) << "they are read at the end";
+  EXPECT_TRUE(assembly.finish(result, result.size())) << "they are read at the end";
   EXPECT_EQ(result, "[ac][ac]");
 }
 
@@ -112,7 +112,7 @@ TEST(TextAssembly, CanBeUsedAgain) {
     assembly.start(plan, prepared);
     for (const PreparedText::Use& use : prepared.uses) assembly.fill(use, "v");
     std::string result;
-    EXPECT_TRUE(assembly.finish(result));
+    EXPECT_TRUE(assembly.finish(result, result.size()));
     EXPECT_EQ(result, i == 1 ? "v v " : "v ");
   }
 }
