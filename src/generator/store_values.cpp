@@ -1,5 +1,9 @@
 #include "generator/store_values.h"
 
+#include <algorithm>
+#include <span>
+#include <vector>
+
 #include "core/program.h"
 #include "core/user_variable.h"
 #include "generator/fill_plan.h"
@@ -31,13 +35,17 @@ std::unique_ptr<PreparedText> PrepareForStore(const FillPlan& plan, ItemValues& 
   if (!prepared->quick) return prepared;
   TextAssembly assembly;
   assembly.start(plan, *prepared);
+  std::vector<bool> kept(prepared->begins.size());  // places that an earlier step may take on some pages
   for (const PreparedText::Use& use : prepared->uses) {
+    const auto places = std::span(prepared->places).subspan(use.first, use.count);
     const Value value = storeValue(plan.steps()[use.step], values);
-    if (value) assembly.fill(use, *value);
-  }
-  // A place that is left because its step counts must not be taken for a fresh one.
-  for (const PreparedText::Use& use : prepared->uses) {
-    if (storeValue(plan.steps()[use.step], values) && assembly.isOpen(use)) return prepared;
+    if (!value || std::any_of(places.begin(), places.end(), [&](std::uint32_t place) { return kept[place]; })) {
+      for (const std::uint32_t place : places) kept[place] = true;
+      continue;
+    }
+    assembly.fill(use, *value);
+    // A place that is left because its step counts must not be taken for a fresh one.
+    if (assembly.isOpen(use)) return prepared;
   }
   std::string filled;
   if (!assembly.finish(filled, 0)) return prepared;

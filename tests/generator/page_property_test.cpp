@@ -100,7 +100,7 @@ class RandomShop {
     for (auto step = walk.advance(); step != TreeWalk::Step::Done; step = walk.advance()) {
       if (step == TreeWalk::Step::Node) nodes.push_back(walk.node());
     }
-    for (const char* name : {"$NOTE", "$LONGNOTE", "$PRO"}) {
+    for (const char* name : {"$NOTE", "$LONGNOTE", "$PRO", "$BODY", "$PRICE", "$CURRENCY"}) {
       UserVariable* variable = UserVariableInit(nullptr);
       variable->name.assign(name);
       UserVariableAppend(t.project(), variable);
