@@ -1,7 +1,6 @@
 #include "generator/store_values.h"
 
 #include <algorithm>
-#include <span>
 #include <vector>
 
 #include "core/program.h"
@@ -28,25 +27,43 @@ Value storeValue(const FillStep& step, ItemValues& values) {
   return value && value->find_first_of("$<>") == std::string_view::npos ? value : Value();
 }
 
+// Whether the step is taken on a block.
+bool isOfItems(const FillStep& step) {
+  return step.source == FillSource::Variable || step.source == FillSource::Item;
+}
+
+// Puts the values of the store in their places. False when that cannot be done beforehand.
+bool fillStoreValues(const FillPlan& plan, ItemValues& values, const PreparedText& prepared, bool isBlock,
+                     TextAssembly& assembly) {
+  // Places that an earlier step takes with a value of the page: a later one may only have what that leaves.
+  std::vector<bool> isOfPage(prepared.begins.size());
+  for (const PreparedText::Use& use : prepared.uses) {
+    const FillStep& step = plan.steps()[use.step];
+    if (isBlock && !isOfItems(step)) continue;
+    const auto first = prepared.places.begin() + use.first;
+    const Value value = storeValue(step, values);
+    if (!value) {
+      std::for_each(first, first + use.count, [&](std::uint32_t place) { isOfPage[place] = true; });
+      continue;
+    }
+    if (std::any_of(first, first + use.count, [&](std::uint32_t place) { return isOfPage[place]; })) return false;
+    assembly.fill(use, *value);
+  }
+  // A place that is left because its step counts must not be taken for a fresh one.
+  return std::none_of(prepared.uses.begin(), prepared.uses.end(), [&](const PreparedText::Use& use) {
+    return storeValue(plan.steps()[use.step], values) && assembly.isOpen(use);
+  });
+}
+
 }  // namespace
 
-std::unique_ptr<PreparedText> PrepareForStore(const FillPlan& plan, ItemValues& values, std::string_view text) {
+std::unique_ptr<PreparedText> PrepareForStore(const FillPlan& plan, ItemValues& values, std::string_view text,
+                                              bool isBlock) {
   auto prepared = std::make_unique<PreparedText>(plan, text);
   if (!prepared->quick) return prepared;
   TextAssembly assembly;
   assembly.start(plan, *prepared);
-  std::vector<bool> kept(prepared->begins.size());  // places that an earlier step may take on some pages
-  for (const PreparedText::Use& use : prepared->uses) {
-    const auto places = std::span(prepared->places).subspan(use.first, use.count);
-    const Value value = storeValue(plan.steps()[use.step], values);
-    if (!value || std::any_of(places.begin(), places.end(), [&](std::uint32_t place) { return kept[place]; })) {
-      for (const std::uint32_t place : places) kept[place] = true;
-      continue;
-    }
-    assembly.fill(use, *value);
-    // A place that is left because its step counts must not be taken for a fresh one.
-    if (assembly.isOpen(use)) return prepared;
-  }
+  if (!fillStoreValues(plan, values, *prepared, isBlock, assembly)) return prepared;
   std::string filled;
   if (!assembly.finish(filled, 0)) return prepared;
   auto result = std::make_unique<PreparedText>(plan, filled);

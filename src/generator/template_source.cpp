@@ -109,7 +109,7 @@ void TemplateSource::prepare(Kept& kept) {
   }
   if (!plan_.isQuick()) return;
   page.preparedPage = PrepareForStore(plan_, values_, page.page);
-  if (page.shelf == ShelfState::Taken) page.preparedBlock = PrepareForStore(plan_, values_, page.block);
+  if (page.shelf == ShelfState::Taken) page.preparedBlock = PrepareForStore(plan_, values_, page.block, true);
 }
 
 }  // namespace varlo

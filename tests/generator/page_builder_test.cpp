@@ -194,6 +194,24 @@ TEST_F(PageBuilderTest, WhatABlockLeavesGetsTheValuesOfThePage) {
   EXPECT_EQ(shelf("<SHELF>$KEYWORDS</SHELF>"), "words");
 }
 
+TEST_F(PageBuilderTest, AnEarlyTextComesBeforeAUserVariableOfItsName) {
+  UserVariable* variable = UserVariableInit(nullptr);
+  variable->name.assign("$BODY");
+  variable->value.assign("variable");
+  UserVariableAppend(t.project(), variable);
+  t.home->body.assign("body");
+  EXPECT_EQ(category("$BODY $BODY $BODY $BODY $BODY"), "body body body body variable");
+}
+
+TEST_F(PageBuilderTest, ABlockHasNoEarlySteps) {
+  add("Car");
+  add("Doll");
+  EXPECT_EQ(
+      shelf("<SHELF>$STORETITLE,$STORETITLE,$STORETITLE,$STORETITLE,$STORETITLE,$STORETITLE;</SHELF>"),
+      "Toys,Toys,Toys,Toys,Toys,Toys;Toys,Toys,Toys,Toys,Toys,Toys;Toys,Toys,Toys,Toys,$STORETITLE,$STORETITLE;")
+      << "four in each block by its item, then four on the page";
+}
+
 TEST_F(PageBuilderTest, TheFirstShelfKeyOfThePageTakesTheBlocks) {
   t.home->body.assign("$SHELF!");
   EXPECT_EQ(shelf("$BODY<SHELF>[$TITLE]</SHELF>"), "[Ball]!$SHELF") << "the body is there before the block";
