@@ -56,6 +56,14 @@
     toastTimer = setTimeout(function () { toast.hidden = true; }, 2500);
   }
 
+  // A remove link is of use only while its item is in the cart.
+  function showRemoveLinks(items) {
+    Array.prototype.forEach.call(document.querySelectorAll('a[href^="' + link + 'removeItem("]'), function (anchor) {
+      var key = messageOf(anchor.getAttribute('href')).args[0];
+      anchor.style.visibility = items.some(function (item) { return item.key === key; }) ? '' : 'hidden';
+    });
+  }
+
   document.addEventListener('click', function (event) {
     var anchor = event.target.closest && event.target.closest('a[href],area[href]');
     var message = anchor && messageOf(anchor.getAttribute('href'));
@@ -71,7 +79,11 @@
       registerIsUp = true;
       waiting.splice(0).forEach(post);
     }
-    if (told.shop === 'cart' && told.view.said) tell(told.view.said);
+    if (told.shop !== 'cart') return;
+    if (told.view.said) tell(told.view.said);
+    showRemoveLinks(told.view.items);
   });
-  post({ shop: 'hello' });
+  // Once the page is there as a whole, so that the answer finds all its links.
+  function hello() { post({ shop: 'hello' }); }
+  if (document.readyState === 'loading') document.addEventListener('DOMContentLoaded', hello); else hello();
 })();

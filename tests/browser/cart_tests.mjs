@@ -103,8 +103,15 @@ export function cartTests(way) {
 
     test('removes from the trolley and from the page', async (t) => {
       const store = await openStore(t, way);
-      for (const { code } of products) await store.add(code);
+      await eventually(() => store.frames.main.isVisible('#MIX .remove'), false);   // there is nothing to remove yet
+      await store.add('MIX');
+      await eventually(() => store.frames.main.isVisible('#MIX .remove'), true);
+      assert.equal(await store.frames.main.isVisible('#BOWL .remove'), false);
+      await store.add('BOWL');
+      await store.add('ODD');
       await store.count(3);
+      await store.frames.main.evaluate(() => location.reload());
+      await eventually(() => store.frames.main.isVisible('#ODD .remove'), true);
       await store.frames.trolley.click('[aria-label="Remove Bowl & spoon"]');
       await store.count(2);
       await store.frames.main.click('#MIX .remove');
