@@ -83,6 +83,9 @@
     if (told.view.said) tell(told.view.said);
     showRemoveLinks(told.view.items);
   });
+  // A customer who clicks and goes on at once keeps the item if the register frame is there.
+  addEventListener('pagehide', function () { waiting.splice(0).forEach(post); });
+
   // Once the page is there as a whole, so that the answer finds all its links.
   function hello() { post({ shop: 'hello' }); }
   if (document.readyState === 'loading') document.addEventListener('DOMContentLoaded', hello); else hello();

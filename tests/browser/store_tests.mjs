@@ -94,9 +94,11 @@ export function storeTests(way) {
       await shop.visit('herbal.htm');                                      // in a list
       await shop.frames.main.focus(shop.addLink('Peppermint Leaf'));
       await shop.page.keyboard.press('Enter');
+      await shop.seeAdded();
       await shop.visit('cups.htm');                                        // on a shelf
       await shop.frames.main.focus(shop.addLink('Caf\u00e9 Bowl'));
       await shop.page.keyboard.press('Enter');
+      await shop.seeAdded();
       await shop.add('teapot_for_one.htm');                                // its title holds a tag
       await eventually(shop.lines, ["The Tea Taster's Chest | 1 | \u00a329.00", "Cook's Knife, 20 cm | 1 | \u00a364.00",
         'Peppermint Leaf | 1 | \u00a35.40', 'Caf\u00e9 Bowl | 1 | \u00a314.00', 'Teapot for One new | 1 | \u00a324.00']);

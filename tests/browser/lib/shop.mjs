@@ -62,9 +62,10 @@ export async function openShop(t, browser, address) {
     add: async (page, title) => {
       if (shop.where() !== page) await shop.visit(page);
       await frames.main.click(shop.addLink(title));
-      // What a customer sees before leaving the page.
-      await frames.main.waitForSelector('[role=status]:not([hidden])');
+      await shop.seeAdded();
     },
+    // What a customer sees before leaving the page.
+    seeAdded: () => frames.main.waitForSelector('[role=status]:not([hidden])'),
   };
   return shop;
 }
