@@ -149,6 +149,7 @@ export function storeTests(way) {
       await shop.add('skillet.htm');
       await eventually(shop.lines, ['Iron Skillet | 2 | \u00a384.00']);
       await shop.frames.trolley.click('[aria-label="One less of Iron Skillet"]');
+      await eventually(shop.lines, ['Iron Skillet | 1 | \u00a342.00']);
       // Another page opened alone, in the same tab: the same cart.
       await shop.page.goto(`${roots.Demo}/cups.htm`);
       await eventually(shop.lines, ['Iron Skillet | 1 | \u00a342.00']);

@@ -44,3 +44,11 @@ test('no line is long enough to be cut, and cart.js holds nothing that a page wo
   for (const name of ['cart.js', ...Object.keys(known)]) assert.ok(read(name).split('\n').every((line) => line.length < 3000), name);
   assert.doesNotMatch(read('cart.js'), /\$|<!--|^;/m);
 });
+
+test('the cart names the groups of regions as domain.dat does', () => {
+  const [, text] = /var groups = \{([\s\S]*?)\};/.exec(read('register.dat'));
+  const named = [...text.matchAll(/(\w\w): '([^']*)'/g)].map(([, code, name]) => `${code} ${name}`);
+  const shipped = fs.readFileSync(new URL('../../installation/domain.dat', import.meta.url), 'latin1').split(/\r?\n/)
+    .filter((line) => /^(EU|X[A-Z]) /.test(line));
+  assert.deepEqual(named.sort(), shipped.sort());
+});
