@@ -4,7 +4,9 @@
 
 #include <cstddef>
 #include <functional>
+#include <string>
 #include <type_traits>
+#include <vector>
 
 namespace varlo::bench {
 
@@ -28,5 +30,16 @@ auto RunInChild(Run&& run) -> ChildReport<std::invoke_result_t<Run>> {
   report.peakBytes = RunForked([&] { report.result = run(); }, &report.result, sizeof(Result));
   return report;
 }
+
+// What a program cost.
+struct ProgramCost {
+  double seconds = 0;  // processor time, with what the system did for it
+  double wall = 0;     // on the clock
+  std::size_t peakBytes = 0;
+};
+
+// Runs a program with its output thrown away. Throws std::runtime_error when it can't be run or does not
+// end with 0.
+ProgramCost RunProgram(const std::vector<std::string>& command);
 
 }  // namespace varlo::bench

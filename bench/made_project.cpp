@@ -10,7 +10,6 @@
 namespace varlo::bench {
 namespace {
 
-constexpr std::size_t kProductsInCategory = 50;
 constexpr std::size_t kCategoriesInDepartment = 20;
 constexpr std::size_t kRegions = 48;
 constexpr std::size_t kVariables = 36;
@@ -122,7 +121,7 @@ class Writer {
     holder("Home", "index");
     line("#BRANCH");
     for (std::size_t first = 0; first < project_.products;) {
-      const std::size_t number = first / (kProductsInCategory * kCategoriesInDepartment);
+      const std::size_t number = first / (project_.inCategory * kCategoriesInDepartment);
       holder(numbered("Department ", number + 1, 1), numbered("d", number, 3));
       line("#BRANCH");
       for (std::size_t i = 0; i < kCategoriesInDepartment && first < project_.products; ++i) category(first);
@@ -133,11 +132,11 @@ class Writer {
 
   // A category with the products from `first` on, which it moves on.
   void category(std::size_t& first) {
-    const std::size_t number = first / kProductsInCategory;
+    const std::size_t number = first / project_.inCategory;
     const std::string title = std::string(draw_.of(kMakes)).append(" ").append(draw_.of(kThings)).append("s");
     holder(title, numbered("c", number, 5));
     line("#BRANCH");
-    for (std::size_t i = 0; i < kProductsInCategory && first < project_.products; ++i) product(first++);
+    for (std::size_t i = 0; i < project_.inCategory && first < project_.products; ++i) product(first++);
     line("#EOB");
   }
 
@@ -224,7 +223,7 @@ std::size_t countOf(std::size_t items, std::size_t inEach) { return (items + inE
 }  // namespace
 
 std::size_t MadeProject::nodes() const {
-  const std::size_t categories = countOf(products, kProductsInCategory);
+  const std::size_t categories = countOf(products, inCategory);
   return 1 + countOf(categories, kCategoriesInDepartment) + categories + products;
 }
 

@@ -17,10 +17,11 @@ enum class Flavour {
 // The moment of saving that stands in the first line, in seconds since 1970.
 inline constexpr std::int64_t kMadeProjectTime = 1044072306;
 
-// Products stand in categories of 50, and 20 categories in a department below the home page.
+// Products stand in categories, and 20 categories in a department below the home page.
 struct MadeProject {
   Flavour flavour = Flavour::Full;
   std::size_t products = 0;
+  std::size_t inCategory = 50;
   // In front of the names of pictures: below the project, or elsewhere.
   std::string_view pictures = "img/";
 

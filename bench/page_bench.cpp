@@ -26,6 +26,7 @@
 #include "core/store_tree.h"
 #include "generator/fill_plan.h"
 #include "generator/generator.h"
+#include "generator/page_builder.h"
 #include "generator/page_walk.h"
 #include "generator/prepared_text.h"
 #include "generator/quick_page.h"
@@ -84,9 +85,9 @@ class Store {
   Scheme* scheme_;
 };
 
-void makeStore(const std::string& folder, std::size_t products) {
+void makeStore(const std::string& folder, std::size_t products, std::size_t inCategory) {
   fs::create_directories(folder);
-  WriteMadeProject({.products = products, .pictures = kOutside}, folder, kProjectName);
+  WriteMadeProject({.products = products, .inCategory = inCategory, .pictures = kOutside}, folder, kProjectName);
   WriteMadeTemplates(folder);
 }
 
@@ -207,54 +208,40 @@ void measurePass(const std::string& folder) {
               source.size(), prepared.begins.size() - 2, plainTime.seconds() * 1e6, quickTime.seconds() * 1e6);
 }
 
-// A whole process: start, load, walk; beside a copy of what it made.
-void measureProcess(const std::string& folder, std::size_t products) {
-  const std::string web = folder + "/web";
-  const std::string copy = folder + "/copy";
-  double best = 1e9;
-  double bestCopy = 1e9;
-  std::size_t peak = 0;
-  for (int i = 0; i < 7; ++i) {
-    emptyFolder(web);
-    const auto run = RunInChild([&] {
-      const double start = ThreadSeconds();
-      Store store(folder, web);
-      store.walk();
-      return ThreadSeconds() - start;
-    });
-    best = std::min(best, run.result);
-    peak = std::max(peak, run.peakBytes);
-    fs::remove_all(copy);
-    const auto copied = RunInChild([&] {
-      const std::string command = "cp -r '" + web + "' '" + copy + "'";
-      const double start = ChildSeconds();
-      if (std::system(command.c_str()) != 0) throw std::runtime_error("cp failed.");
-      return ChildSeconds() - start;
-    });
-    bestCopy = std::min(bestCopy, copied.result);
+// One page of each kind over and over: its template read, its file written.
+void measurePages(const std::string& folder) {
+  Store store(folder, folder + "/web");
+  emptyFolder(folder + "/web");
+  Program& program = store.program();
+  Generator generator(program);
+  StoreNode* category = program.project.root->child->child;
+  std::printf("| page | KB | us |\n|---|---|---|\n");
+  for (StoreNode* node : {category->child, category, program.project.root->child}) {
+    BestTime time;
+    PageBuilder builder(generator);
+    for (int round = 0; round < 500; ++round) {
+      time.add(SecondsOf([&] { builder.build(node); }));
+    }
+    const std::string file = folder + "/web/" + node->fileName.get();
+    std::printf("| %s | %.1f | %.1f |\n", node->title.get(), static_cast<double>(fs::file_size(file)) / 1000,
+                time.seconds() * 1e6);
   }
-  const auto project = static_cast<double>(fs::file_size(folder + "/" + kProjectName));
-  constexpr double kMiB = 1024 * 1024;
-  std::printf("| %zu | %.1f | %.1f | %.2f | %.1f | %.1f |\n", products, best * 1e3, bestCopy * 1e3, best / bestCopy,
-              static_cast<double>(peak) / kMiB, 6 + 1.5 * project / kMiB);
-  std::fflush(stdout);
+  std::printf("\n");
 }
 
 void run(const std::string& parent) {
   const WorkFolder work(parent);
-  for (const std::size_t products : {1000, 10000, 100000}) {
-    makeStore(work.path() + "/" + std::to_string(products), products);
-  }
-  std::printf("| products | process ms | cp -r ms | ratio | peak MiB | allowed |\n|---|---|---|---|---|---|\n");
-  for (const std::size_t products : {1000, 10000}) {
-    measureProcess(work.path() + "/" + std::to_string(products), products);
-  }
-  measurePass(work.path() + "/1000");
+  const auto folderOf = [&work](std::size_t products) { return work.path() + "/" + std::to_string(products); };
+  for (const std::size_t products : {1000, 10000}) makeStore(folderOf(products), products, 50);
+  makeStore(work.path() + "/wide", 1000, 1000);
+  measurePass(folderOf(1000));
+  measurePages(folderOf(1000));
   std::printf(
       "| store | pages | KB/page | pages/s | MB/s | us/page | plain/walk | again/new | allocations/page |\n"
       "|---|---|---|---|---|---|---|---|---|\n");
-  printWalk("1,000", measureWalk(work.path() + "/1000"));
-  printWalk("10,000", measureWalk(work.path() + "/10000"));
+  printWalk("1,000", measureWalk(folderOf(1000)));
+  printWalk("10,000", measureWalk(folderOf(10000)));
+  printWalk("1,000 in one category", measureWalk(work.path() + "/wide"));
 }
 
 }  // namespace

@@ -22,11 +22,8 @@ int PageBuilder::build(StoreNode* node) {
   const PageTemplate* source = templates_.read(*node);
   if (source == nullptr) return 1;
   const std::string* shelf = takeShelf(*source, *node);
-  TextSigns::Found found = fill(*source, *node, shelf) ? quick_.signs().found : TextSigns::kAll;
-  if (found.plusComment) {
-    OpenPlusComment(page_);
-    found = TextSigns::kAll;  // what stood around the marks may have joined to others
-  }
+  const TextSigns::Found found = fill(*source, *node, shelf) ? quick_.signs().found : TextSigns::kAll;
+  if (found.plusComment) OpenPlusComment(page_);
   return write(*node, found);
 }
 
@@ -83,8 +80,9 @@ int PageBuilder::write(StoreNode& node, const TextSigns::Found& found) {
     ErrorBox(generator_.program, message::kPageCreateError);
     return 0;
   }
-  if (found.shelfMark) RemoveShelfMarks(page_);
-  if ((found.comment || found.shelfMark) && !RemoveComments(page_)) {
+  // What stood around a mark may have joined to a comment.
+  const bool joined = RemoveShelfMarks(page_) || found.plusComment;
+  if ((found.comment || joined) && !RemoveComments(page_)) {
     LogError(generator_.log, FillMessage(message::kEndlessComment, node.fileName.view()));
   }
   if (!page_.empty()) files.write(file.handle(), page_.data(), page_.size());

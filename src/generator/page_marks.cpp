@@ -14,6 +14,16 @@ constexpr std::string_view kShelfClose = "</SHELF>";
 constexpr std::string_view kCommentClose = "-->";
 constexpr std::size_t kNone = std::string_view::npos;
 
+// Whether an "F>" stands among the bytes, in any case, for many bytes at a time: neither of the two is rare.
+bool mayHoldShelfMark(std::string_view text) {
+  unsigned char hit = 0;
+  for (std::size_t i = 0; i + 1 < text.size(); ++i) {
+    const int mark = static_cast<int>((text[i] | 0x20) == 'f') & static_cast<int>(text[i + 1] == '>');
+    hit = static_cast<unsigned char>(hit | mark);
+  }
+  return hit != 0;
+}
+
 // Closes the text up byte by byte, so that marks which only come about by that go as well.
 void removeNoCase(std::string& text, std::string_view mark) {
   const std::size_t first = FindNoCase(text, mark);
@@ -53,9 +63,12 @@ void OpenPlusComment(std::string& page) {
   if (close != kNone) page.erase(close, kPlusClose.size());
 }
 
-void RemoveShelfMarks(std::string& page) {
+bool RemoveShelfMarks(std::string& page) {
+  const std::size_t before = page.size();
+  if (!mayHoldShelfMark(page)) return false;
   removeNoCase(page, kShelfOpen);
   removeNoCase(page, kShelfClose);
+  return page.size() < before;
 }
 
 bool RemoveComments(std::string& page) {

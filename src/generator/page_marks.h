@@ -27,8 +27,8 @@ struct ShelfBlock {
 // Removes the first "<!--+" and the first "+-->": what stands between them becomes content.
 void OpenPlusComment(std::string& page);
 
-// Removes every "<SHELF>", then every "</SHELF>", in any case.
-void RemoveShelfMarks(std::string& page);
+// Removes every "<SHELF>", then every "</SHELF>", in any case. Gives whether there was one.
+bool RemoveShelfMarks(std::string& page);
 
 // Removes every comment, from its "<!--" through the next "-->"; the two may share their hyphens. False
 // when one has no end: it stays, with the rest of the page.

@@ -1,5 +1,4 @@
-// TextSigns: what a filled text holds that somebody has to look at, found in one pass over many bytes at
-// a time. Most texts hold next to nothing of it.
+// TextSigns: what a filled text holds that somebody has to look at. Most texts hold next to nothing of it.
 #pragma once
 
 #include <cstddef>
@@ -12,20 +11,15 @@ struct TextSigns {
   struct Found {
     bool comment = false;      // a "<!--"
     bool plusComment = false;  // a "<!--+" or a "+-->"
-    bool shelfMark = false;    // the end of a "<SHELF>" or "</SHELF>"
   };
   // What is to be assumed of a text that was not searched.
-  static constexpr Found kAll{true, true, true};
+  static constexpr Found kAll{true, true};
 
   std::vector<std::size_t> keys;  // where a key may begin: each "$" and each letter page
   Found found;
 
   // Looks for the signs of `text` from `from` on, instead of what was found before.
   void find(std::string_view text, std::size_t from);
-
- private:
-  void look(std::string_view text, std::size_t at);
-  void lookAtEach(std::string_view text, std::size_t from, std::size_t to);
 };
 
 }  // namespace varlo
