@@ -47,7 +47,7 @@
       toast.setAttribute('role', 'status');
       toast.style.cssText = 'position:fixed;left:50%;bottom:20px;transform:translateX(-50%);max-width:90%;padding:10px 18px;' +
         'border-radius:8px;background:#222;color:white;font:15px/1.3 "Segoe UI",Roboto,Helvetica,Arial,sans-serif;' +
-        'box-shadow:0 4px 16px rgba(0,0,0,.3);z-index:1000';
+        'box-shadow:0 4px 16px rgba(0,0,0,.3);z-index:1000;pointer-events:none';   // a button below it still works
       document.body.append(toast);
     }
     toast.hidden = false;

@@ -11,6 +11,8 @@ export async function startBrowser() {
   const browser = await chromium.launchPersistentContext(profile, {
     executablePath: process.env.VARLO_CHROMIUM ?? '/usr/bin/chromium',
     headless: true,
+    // Pages scroll smoothly otherwise, away from under the mouse between its button's down and up.
+    reducedMotion: 'reduce',
     args: [...(root ? ['--no-sandbox'] : []), '--disable-gpu', '--disable-quic', '--no-first-run', '--disable-background-networking',
       '--disable-component-update', '--disable-sync'],
   });
