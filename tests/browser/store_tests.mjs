@@ -284,7 +284,8 @@ export function storeTests(way) {
       await shop.frames.main.click('.send');
       await shop.frames.main.waitForURL(/register\.html\?confirm$/);
       await eventually(() => shop.text('.order-number'), 'Your order number is FK-77.');
-      await shop.frames.main.evaluate(() => location.reload());            // survives a reload
+      await shop.frames.main.evaluate(() => { window.before = true; location.reload(); });   // survives a reload
+      await eventually(() => shop.frames.main.evaluate(() => window.before === undefined), true);
       await eventually(() => shop.text('.order-number'), 'Your order number is FK-77.');
       assert.match(await shop.text('body'), /We pack it with care and write to you as soon as it is on its way\./);
       await eventually(shop.lines, []);
