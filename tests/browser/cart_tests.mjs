@@ -41,12 +41,13 @@ async function openStore(t, way, { changes = {}, start = 'index.html', options =
   fs.writeFileSync(path.join(folder, 'img', 'mix.gif'), Buffer.from('R0lGODlhAQABAIAAAAAAAP///ywAAAAAAQABAAACAUwAOw==', 'base64'));
   fs.writeFileSync(path.join(folder, 'favicon.ico'), '');
   let root = pathToFileURL(folder).href;
+  let server = null;
   if (way === 'http') {
-    const server = await serveFolder(folder, delays);
-    t.after(() => server.close());
+    server = await serveFolder(folder, delays);
     root = server.address;
   }
-  const shop = await openShop(t, browser, `${root}/${start}`);
+  // The page is closed first: a server that goes away under it would look like an error of the page.
+  const shop = await openShop(t, browser, `${root}/${start}`).finally(() => t.after(() => server?.close()));
   // The hand-made pages know their products by the code.
   return { ...shop, folder, root, add: (code) => shop.frames.main.click(`#${code} .add span`) };
 }
