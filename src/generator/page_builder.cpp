@@ -75,7 +75,7 @@ bool PageBuilder::fill(const PageTemplate& source, StoreNode& node, const std::s
 int PageBuilder::write(StoreNode& node, const TextSigns::Found& found) {
   Files& files = generator_.program.files;
   path_.assign(generator_.program.project.webDir.view()).append("\\").append(node.fileName.view());
-  OpenFile file(files, files.create(path_));
+  OpenFile file(files, files.createOver(path_));
   if (!file.isOpen()) {
     ErrorBox(generator_.program, message::kPageCreateError);
     return 0;

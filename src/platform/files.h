@@ -36,6 +36,9 @@ struct Files {
   [[nodiscard]] virtual FileHandle openRead(std::string_view path) = 0;
   // Creates the file, or empties the one that is there, and opens it for writing; kNoFile on failure.
   [[nodiscard]] virtual FileHandle create(std::string_view path) = 0;
+  // The same for a file that is written from its start to its end and then closed. The bytes of an old one
+  // may go only as they are written over, which spares the file system much work.
+  [[nodiscard]] virtual FileHandle createOver(std::string_view path) { return create(path); }
   // Reads up to `size` bytes; gives how many came: fewer at the end of the file or on an error, then 0.
   virtual std::size_t read(FileHandle file, void* data, std::size_t size) = 0;
   // Writes `size` bytes; gives how many went out.

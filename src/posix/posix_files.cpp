@@ -138,22 +138,31 @@ FileHandle PosixFiles::openRead(std::string_view path) {
   return opened(descriptor, true);
 }
 
-// A file that was there before is opened at once; for any other the folder's names decide, since the one
-// that is meant may be spelt in another case.
-FileHandle PosixFiles::create(std::string_view path) {
+FileHandle PosixFiles::create(std::string_view path) { return opened(openNew(path, O_TRUNC), false); }
+
+FileHandle PosixFiles::createOver(std::string_view path) {
+  if (overwritten_ >= 0) return create(path);
+  overwritten_ = openNew(path, 0);
+  return opened(overwritten_, false);
+}
+
+// Opens a file for writing, with `emptying` as a flag of the system. A file that was there before is opened
+// at once; for any other the folder's names decide, since the one that is meant may be spelt in another case.
+// The system itself lets nobody write to a folder.
+int PosixFiles::openNew(std::string_view path, int emptying) {
   std::string host = hostPath(path);
   const std::size_t slash = host.rfind('/');
   const std::string_view name = std::string_view(host).substr(slash + 1);
   int descriptor = -1;
   if (index_.remembers(host.substr(0, slash), BytesFromUtf8(name), name)) {
-    descriptor = retryOpen(host, O_WRONLY | O_TRUNC);
+    descriptor = retryOpen(host, O_WRONLY | emptying);
   }
   if (descriptor < 0) {
     const Place place = findOther(std::move(host));
-    descriptor = retryOpen(place.path(), O_WRONLY | O_CREAT | O_TRUNC);
+    descriptor = retryOpen(place.path(), O_WRONLY | O_CREAT | emptying);
     if (descriptor >= 0 && !place.exists) index_.added(place.folder, place.name);
   }
-  return opened(descriptor, false);  // the system lets nobody write to a folder
+  return descriptor;
 }
 
 std::size_t PosixFiles::read(FileHandle file, void* data, std::size_t size) {
@@ -185,7 +194,17 @@ std::int64_t PosixFiles::seek(FileHandle file, std::int64_t offset, SeekFrom fro
 }
 
 void PosixFiles::close(FileHandle file) {
-  if (file != kNoFile) ::close(static_cast<int>(file));
+  if (file == kNoFile) return;
+  const int descriptor = static_cast<int>(file);
+  if (descriptor == overwritten_) {
+    overwritten_ = -1;
+    struct stat status {};
+    const off_t end = ::lseek(descriptor, 0, SEEK_CUR);
+    if (end >= 0 && ::fstat(descriptor, &status) == 0 && status.st_size > end && ::ftruncate(descriptor, end) != 0) {
+      error_ = errno;
+    }
+  }
+  ::close(descriptor);
 }
 
 bool PosixFiles::copy(std::string_view from, std::string_view to, bool overwrite) {

@@ -17,6 +17,7 @@ class PosixFiles : public Files {
 
   FileHandle openRead(std::string_view path) override;
   FileHandle create(std::string_view path) override;
+  FileHandle createOver(std::string_view path) override;
   std::size_t read(FileHandle file, void* data, std::size_t size) override;
   std::size_t write(FileHandle file, const void* data, std::size_t size) override;
   std::int64_t seek(FileHandle file, std::int64_t offset, SeekFrom from) override;
@@ -46,12 +47,14 @@ class PosixFiles : public Files {
   Place find(std::string_view path);
   Place findOther(std::string host);
   std::string findFolder(const std::string& path);
+  int openNew(std::string_view path, int emptying);
   FileHandle opened(int descriptor, bool mayBeFolder);
   bool failed(int error);
 
   std::string folder_;
   FolderIndex index_;
   int error_ = 0;
+  int overwritten_ = -1;  // a file that ends, when it is closed, where it was written last
 };
 
 }  // namespace varlo

@@ -216,6 +216,19 @@ TEST_F(PosixFilesCreate, ManyFilesAreMadeAndFoundAgain) {
   EXPECT_EQ(hostNames().size(), 300U);
 }
 
+TEST_F(PosixFilesCreate, OverAnOldFileItEndsWhereItWasWrittenLast) {
+  putOnHost("Page.htm", "an old and long page");
+  for (const std::string_view text : {"a new page", "a page", "a page that is longer than all", ""}) {
+    {
+      const OpenFile file(files_, files_.createOver("page.HTM"));
+      ASSERT_TRUE(file.isOpen());
+      files_.write(file.handle(), text.data(), text.size());
+    }
+    EXPECT_EQ(onHost("Page.htm"), text);
+  }
+  EXPECT_EQ(hostNames(), Names{"Page.htm"});
+}
+
 TEST_F(PosixFilesCreate, FailsWithoutItsFolder) {
   EXPECT_EQ(files_.create("missing\\a.txt"), kNoFile);
   EXPECT_TRUE(hostNames().empty());
