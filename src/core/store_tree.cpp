@@ -165,6 +165,11 @@ StoreNode* LiveParent(const StoreNode& node) {
   return node.parent != nullptr && node.parent->released ? nullptr : node.parent;
 }
 
+bool IsShownByParent(const StoreNode& node) {
+  const StoreNode* parent = LiveParent(node);
+  return parent != nullptr && IsShelfOrList(*parent);
+}
+
 bool IsInBranch(const StoreNode& top, const StoreNode& node) {
   if (&top == &node) return true;
   TreeWalk walk(top.child, true);

@@ -32,6 +32,9 @@ struct NodePlace {
 // The parent of `node`, null when there is none or it was deleted meanwhile.
 [[nodiscard]] StoreNode* LiveParent(const StoreNode& node);
 
+// Whether the node is an item of a shelf or a list, and so has no page of its own.
+[[nodiscard]] bool IsShownByParent(const StoreNode& node);
+
 // Whether `node` is `top` or hangs anywhere below it.
 [[nodiscard]] bool IsInBranch(const StoreNode& top, const StoreNode& node);
 

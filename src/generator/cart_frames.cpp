@@ -13,6 +13,7 @@
 #include "generator/links.h"
 #include "generator/order_pages.h"
 #include "generator/output_file.h"
+#include "generator/reported_replace.h"
 #include "generator/scheme_colours.h"
 
 namespace varlo {

@@ -11,9 +11,6 @@ namespace {
 // Steps are numbered in 16 bits, and there are others beside those of the variables.
 constexpr std::size_t kMostVariables = 60000;
 
-constexpr std::array<std::string_view, 6> kEarlyKeys{"$STORETITLE",  "$PAGETITLE", "$BODY",
-                                                     "$DESCRIPTION", "$KEYWORDS",  "$UPDATED"};
-
 std::uint16_t timesOf(Repeat repeat) {
   if (repeat == Repeat::Once) return 1;
   return repeat == Repeat::Four ? 4 : kEveryTime;
@@ -26,10 +23,9 @@ bool isQuickName(std::string_view name) {
 }  // namespace
 
 FillPlan::FillPlan(const UserVariable* variables) {
-  for (const std::string_view key : kEarlyKeys) {
-    const auto steps = ItemSteps();
-    const auto step = std::find_if(steps.begin(), steps.end(), [key](const ItemStep& s) { return s.key == key; });
-    add(key, FillSource::Early, static_cast<std::size_t>(step - steps.begin()), timesOf(step->repeat));
+  for (const std::size_t number : EarlySteps()) {
+    const ItemStep& step = ItemSteps()[number];
+    add(step.key, FillSource::Early, number, timesOf(step.repeat));
   }
   add("$SHELF", FillSource::Shelf, 0, 1);
   addVariables(variables);
@@ -50,7 +46,6 @@ void FillPlan::add(std::string_view key, FillSource source, std::size_t number, 
   if (key.front() == '$' && key.size() > 1) {
     stepsBySecond_[static_cast<unsigned char>(key[1])].push_back(static_cast<std::uint16_t>(steps_.size()));
   }
-  longestKey_ = std::max(longestKey_, key.size());
   steps_.push_back({std::string(key), source, static_cast<std::uint16_t>(number), times, tagAware});
 }
 

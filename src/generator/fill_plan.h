@@ -56,7 +56,6 @@ class FillPlan {
   [[nodiscard]] bool isKeyAt(std::string_view text) const;
   // Whether `text` is the front of a longer key, so that what follows could complete it.
   [[nodiscard]] bool isFrontOfKey(std::string_view text) const;
-  [[nodiscard]] std::size_t longestKey() const { return longestKey_; }
 
  private:
   void add(std::string_view key, FillSource source, std::size_t number, std::uint16_t times, bool tagAware = false);
@@ -65,7 +64,6 @@ class FillPlan {
 
   std::vector<FillStep> steps_;
   std::array<std::vector<std::uint16_t>, 256> stepsBySecond_;  // steps by the byte behind the "$"
-  std::size_t longestKey_ = 0;
   bool quick_ = true;
 };
 

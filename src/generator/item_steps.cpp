@@ -146,8 +146,19 @@ constexpr std::array<ItemStep, kItemSteps> kSteps{{
     {"$FRAME", R::All, frame, kPlain, kSame},
 }};
 
+constexpr std::size_t numberOf(std::string_view key) {
+  std::size_t number = 0;
+  while (kSteps[number].key != key) ++number;
+  return number;
+}
+
+constexpr std::array kEarly{numberOf("$STORETITLE"),  numberOf("$PAGETITLE"), numberOf("$BODY"),
+                            numberOf("$DESCRIPTION"), numberOf("$KEYWORDS"),  numberOf("$UPDATED")};
+
 }  // namespace
 
 std::span<const ItemStep, kItemSteps> ItemSteps() { return kSteps; }
+
+std::span<const std::size_t> EarlySteps() { return kEarly; }
 
 }  // namespace varlo

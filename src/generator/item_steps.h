@@ -42,4 +42,8 @@ inline constexpr int kVariableRounds = 101;
 // The steps from first to last.
 [[nodiscard]] std::span<const ItemStep, kItemSteps> ItemSteps();
 
+// The numbers of those steps that a page takes once more in front of everything else, in their order there,
+// so that a body can hold the user's variables.
+[[nodiscard]] std::span<const std::size_t> EarlySteps();
+
 }  // namespace varlo

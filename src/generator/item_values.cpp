@@ -2,15 +2,14 @@
 
 #include "core/number_text.h"
 #include "core/program.h"
-#include "core/scheme.h"
 #include "core/store_tree.h"
 #include "generator/html_text.h"
 #include "generator/links.h"
+#include "generator/listing.h"
+#include "generator/scheme_colours.h"
 
 namespace varlo {
 namespace {
-
-constexpr std::size_t kFirstBullet = 24;
 
 // The text, or `otherwise` when it has nothing in it.
 std::string_view orElse(const Text& text, std::string_view otherwise) {
@@ -42,10 +41,7 @@ Replaced BulletTag(std::string& text, std::string_view key, const Value& name) {
   return Replaced::Done;
 }
 
-Value ItemValues::slot(std::size_t number) const {
-  const Scheme* scheme = generator_.program.project.projectScheme;
-  return scheme == nullptr ? Value() : ValueOf(scheme->slot[number]);
-}
+Value ItemValues::slot(std::size_t number) const { return SchemeSlot(generator_.program.project, number); }
 
 // Deliberate: a page title that is there but empty gives an empty description, while the title's own rule
 // passes it over.
@@ -84,7 +80,7 @@ Value ItemValues::updated() {
 }
 
 Value ItemValues::bullet(std::size_t slotNumber) {
-  std::string& buffer = bullets_[slotNumber - kFirstBullet];
+  std::string& buffer = bullets_[slotNumber - kBulletCategory];
   buffer.clear();
   const Value name = slot(slotNumber);
   if (name) AppendBullet(buffer, BaseName(*name));

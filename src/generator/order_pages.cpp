@@ -6,6 +6,7 @@
 #include "generator/generator.h"
 #include "generator/links.h"
 #include "generator/output_file.h"
+#include "generator/reported_replace.h"
 #include "generator/scheme_colours.h"
 
 namespace varlo {

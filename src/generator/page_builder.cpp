@@ -13,9 +13,7 @@
 namespace varlo {
 
 int PageBuilder::build(StoreNode* node) {
-  if (node == nullptr) return 0;
-  const StoreNode* parent = LiveParent(*node);
-  if (parent != nullptr && IsShelfOrList(*parent)) return 0;
+  if (node == nullptr || IsShownByParent(*node)) return 0;
   tellProgress(*node);
   IndexFileAddNode(generator_.log, *node);
   ++generator_.pageCounter;

@@ -6,7 +6,7 @@
 #include "core/text_edit.h"
 #include "generator/item_values.h"
 #include "generator/links.h"
-#include "generator/substitute_item.h"
+#include "generator/reported_replace.h"
 
 namespace varlo {
 namespace {
@@ -20,7 +20,7 @@ Value turned(const Text& fileName, std::string& buffer) {
 
 void replaceAll(const ItemValues& values, std::string& page, std::string_view key, const Value& value,
                 const StoreNode& node) {
-  ReportEndless(values.generator(), ReplaceAll(page, key, value), node, key);
+  ReplaceEvery(values.generator(), page, key, value, node.fileName.view());
 }
 
 // Adds the rows of a list that this page does not show yet, and stamps them. Gives the page's letter where

@@ -54,8 +54,7 @@ class PageWalk {
       LogError(generator_.log, FillMessage(message::kDuplicateFileName, node.fileName.view()));
       return;
     }
-    const StoreNode* parent = LiveParent(node);
-    if (parent == nullptr || !IsShelfOrList(*parent)) FileNameSetAdd(names_, node.fileName.get(), 1);
+    if (!IsShownByParent(node)) FileNameSetAdd(names_, node.fileName.get(), 1);
   }
 
   Generator& generator_;

@@ -1,8 +1,8 @@
 #include "generator/plain_page.h"
 
-#include "core/program.h"
 #include "core/store_node.h"
 #include "generator/fill_plan.h"
+#include "generator/item_steps.h"
 #include "generator/item_values.h"
 #include "generator/node_images.h"
 #include "generator/page_index.h"
@@ -12,15 +12,12 @@
 namespace varlo {
 namespace {
 
-// What is replaced in front of everything else, so that a body can hold the user's variables.
 void fillEarly(ItemValues& values, std::string& page, const StoreNode& node) {
   values.take(node);
-  ReplaceFour(page, "$STORETITLE", values.generator().program.project.storeTitle.view());
-  ReplaceFour(page, "$PAGETITLE", node.pageTitle.view());
-  ReplaceFour(page, "$BODY", node.body.view());
-  ReplaceFour(page, "$DESCRIPTION", values.descriptionRule());
-  ReplaceFour(page, "$KEYWORDS", ValueOf(node.metaKeywords));
-  ReplaceFirst(page, "$UPDATED", values.updated());
+  for (const std::size_t number : EarlySteps()) {
+    const ItemStep& step = ItemSteps()[number];
+    ReplaceUpTo(step.repeat == Repeat::Once ? 1 : 4, page, step.key, step.value(values));
+  }
 }
 
 }  // namespace

@@ -26,9 +26,6 @@ std::string PreviewPage(Generator& generator) {
   return SingleBackSlashes(std::string(project.webDir.view()).append("\\").append(kLoaderName));
 }
 
-StoreNode* PageOf(StoreNode& node) {
-  StoreNode* parent = LiveParent(node);
-  return parent != nullptr && IsShelfOrList(*parent) ? parent : &node;
-}
+StoreNode* PageOf(StoreNode& node) { return IsShownByParent(node) ? LiveParent(node) : &node; }
 
 }  // namespace varlo

@@ -63,7 +63,6 @@ class QuickPage {
   std::size_t place_ = 0;  // of $SUBINDEX in the index; its length when there is none
   TextAssembly::Parts indexParts_{};
   std::string subindex_;
-  std::string row_;
   std::string back_;
   std::string letterPage_;
   std::string tableTwo_;

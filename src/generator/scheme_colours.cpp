@@ -1,14 +1,21 @@
 #include "generator/scheme_colours.h"
 
 #include <array>
+#include <span>
 
 #include "core/program.h"
 #include "core/scheme.h"
-#include "generator/build_messages.h"
 #include "generator/generator.h"
+#include "generator/reported_replace.h"
 
 namespace varlo {
 namespace {
+
+// A variable and the slot that it shows.
+struct SlotVariable {
+  std::string_view key;
+  std::size_t slot;
+};
 
 constexpr std::array<SlotVariable, 6> kCartColours{{
     {"$BGCOLOR", 0},
@@ -40,35 +47,30 @@ constexpr std::array<SlotVariable, 6> kConfirmationColours{{
     {"$LINK_COLOR", 6},
 }};
 
-}  // namespace
-
-Value SchemeSlot(const StoreProject& project, std::size_t slot) {
-  return project.projectScheme == nullptr ? Value() : ValueOf(project.projectScheme->slot[slot]);
-}
-
-void ReplaceEvery(Generator& generator, std::string& text, std::string_view key, const Value& value,
-                  std::string_view fileName) {
-  if (ReplaceAll(text, key, value) == Replaced::Done) return;
-  LogError(generator.log, FillMessage(message::kEndlessReplacement, {fileName, key}));
-}
-
-void ApplySlots(Generator& generator, std::string& text, std::span<const SlotVariable> variables,
+// Replaces every variable by its slot, in the order given; an unset slot leaves its key in the text.
+void applySlots(Generator& generator, std::string& text, std::span<const SlotVariable> variables,
                 std::string_view fileName) {
   for (const SlotVariable& variable : variables) {
     ReplaceEvery(generator, text, variable.key, SchemeSlot(generator.program.project, variable.slot), fileName);
   }
 }
 
+}  // namespace
+
+Value SchemeSlot(const StoreProject& project, std::size_t slot) {
+  return project.projectScheme == nullptr ? Value() : ValueOf(project.projectScheme->slot[slot]);
+}
+
 void ApplyCartColours(Generator& generator, std::string& text, std::string_view fileName) {
-  ApplySlots(generator, text, kCartColours, fileName);
+  applySlots(generator, text, kCartColours, fileName);
 }
 
 void ApplyOrderFormColours(Generator& generator, std::string& text, std::string_view fileName) {
-  ApplySlots(generator, text, kOrderFormColours, fileName);
+  applySlots(generator, text, kOrderFormColours, fileName);
 }
 
 void ApplyConfirmationColours(Generator& generator, std::string& text, std::string_view fileName) {
-  ApplySlots(generator, text, kConfirmationColours, fileName);
+  applySlots(generator, text, kConfirmationColours, fileName);
 }
 
 }  // namespace varlo

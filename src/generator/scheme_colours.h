@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -21,23 +20,8 @@ inline constexpr std::size_t kListColour = 18;
 inline constexpr std::size_t kFrameColour = 19;
 }  // namespace slot
 
-// A variable and the slot that it shows.
-struct SlotVariable {
-  std::string_view key;
-  std::size_t slot;
-};
-
 // The value of a slot of the store's scheme; absent when the scheme leaves it unset, and without a scheme.
 [[nodiscard]] Value SchemeSlot(const StoreProject& project, std::size_t slot);
-
-// Replaces every `key` of a text. A value that holds its own key leaves the text as it is: an error, logged
-// with the file's name.
-void ReplaceEvery(Generator& generator, std::string& text, std::string_view key, const Value& value,
-                  std::string_view fileName);
-
-// Replaces every variable by its slot, in the order given; an unset slot leaves its key in the text.
-void ApplySlots(Generator& generator, std::string& text, std::span<const SlotVariable> variables,
-                std::string_view fileName);
 
 // The colours of the cart.
 void ApplyCartColours(Generator& generator, std::string& text, std::string_view fileName);

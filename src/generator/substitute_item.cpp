@@ -5,6 +5,7 @@
 #include "core/user_variable.h"
 #include "generator/build_messages.h"
 #include "generator/item_steps.h"
+#include "generator/reported_replace.h"
 
 namespace varlo {
 namespace {
@@ -61,10 +62,10 @@ class ItemPass {
         ReplaceFour(text_, step.key, value);
         break;
       case Repeat::All:
-        ReportEndless(generator_, ReplaceAll(text_, step.key, value), page_, step.key);
+        ReplaceEvery(generator_, text_, step.key, value, page_.fileName.view());
         break;
       case Repeat::Tag:
-        ReportEndless(generator_, SubstituteTagAware(text_, step.key, value), page_, step.key);
+        ReportEndless(generator_, SubstituteTagAware(text_, step.key, value), page_.fileName.view(), step.key);
         break;
       default:
         break;
@@ -87,11 +88,6 @@ int SubstituteItem(ItemValues& values, std::string& text, const StoreNode& item,
 int SubstituteItem(Generator& generator, std::string& text, const StoreNode& item, const StoreNode& page) {
   ItemValues values(generator);
   return SubstituteItem(values, text, item, page);
-}
-
-void ReportEndless(Generator& generator, Replaced result, const StoreNode& page, std::string_view key) {
-  if (result != Replaced::Endless) return;
-  LogError(generator.log, FillMessage(message::kEndlessReplacement, {page.fileName.view(), key}));
 }
 
 void ReportMissingCode(Generator& generator, const StoreNode& item, const StoreNode& page) {

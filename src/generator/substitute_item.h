@@ -16,9 +16,6 @@ int SubstituteItem(ItemValues& values, std::string& text, const StoreNode& item,
 // The same with values of its own, for a single text.
 int SubstituteItem(Generator& generator, std::string& text, const StoreNode& item, const StoreNode& page);
 
-// Logs and counts the replacement of `key` on `page` when it was endless.
-void ReportEndless(Generator& generator, Replaced result, const StoreNode& page, std::string_view key);
-
 // The messages of a pass, which whoever makes it reports in this order.
 void ReportMissingCode(Generator& generator, const StoreNode& item, const StoreNode& page);
 void ReportMissingServer(Generator& generator);

@@ -266,6 +266,15 @@ TEST_F(StoreTree, DeletingAMergedNodeWithoutPrevKeepsItsSiblings) {
   ExpectPlainTree(project);
 }
 
+TEST_F(StoreTree, ItemsOfAShelfOrAListAreShownByTheirParent) {
+  EXPECT_TRUE(IsShownByParent(*rack->child));
+  rack->kind = NodeKind::List;
+  EXPECT_TRUE(IsShownByParent(*rack->child));
+  EXPECT_FALSE(IsShownByParent(*rack));
+  EXPECT_FALSE(IsShownByParent(*novel));
+  EXPECT_FALSE(IsShownByParent(*project.root));
+}
+
 TEST_F(StoreTree, ANodeWhoseParentWasDeletedIsTreatedAsHavingNone) {
   novel->parent = toys;
   remove(toys);
