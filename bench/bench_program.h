@@ -33,7 +33,7 @@ class QuietScreen : public Screen {
   std::optional<std::uint32_t> chooseColour(std::uint32_t /*start*/, CustomColours& /*custom*/) override {
     return std::nullopt;
   }
-  void postCommand(PostedCommand /*command*/) override {}
+  void postCommand(Command /*command*/) override {}
 
   [[nodiscard]] int boxes() const { return boxes_; }
 

@@ -10,7 +10,7 @@ namespace varlo {
 void ConsoleView::openInBrowser(std::string_view address) {
   if (program_ == nullptr) return;
   const std::string browser(program_->config.browser.view());
-  if (StartBrowser(machine_, browser, std::string(address))) return;
+  if (machine_.browsers->start(browser, std::string(address))) return;
   program_->screen.messageBox(
       {.text = message::kBrowserError, .title = message::kBrowserErrorTitle, .icon = Icon::Exclamation});
 }

@@ -104,7 +104,7 @@ void NewCategoryCommand(Program& program) {
   if (program.project.root != nullptr) {
     NewNode(program, NodeKind::Category);
   } else {
-    program.screen.postCommand(PostedCommand::NewTopCategory);
+    program.screen.postCommand(Command::TreeNewCategory);
   }
 }
 

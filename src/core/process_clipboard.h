@@ -12,6 +12,7 @@ class ProcessClipboard : public Clipboard {
     return true;
   }
   std::string text() override { return text_; }
+  bool offersText() override { return !text_.empty(); }
 
  private:
   std::string text_;

@@ -51,9 +51,9 @@ void makeDefaultVariable(StoreProject& project) {
 
 void decideFirstCommand(Program& program) {
   if (!program.config.orderServer.isSet()) {
-    program.screen.postCommand(PostedCommand::Upgrade);
+    program.screen.postCommand(Command::Upgrade);
   } else if (!program.project.projectFile.isSet()) {
-    program.screen.postCommand(PostedCommand::NewStore);
+    program.screen.postCommand(Command::NewStore);
   }
 }
 
@@ -93,7 +93,7 @@ void ContinueAfterUpgrade(Program& program, const std::function<void(Program&, c
     openInBrowser(program, kDemoPage);
     program.config.firstRun = 0;
   }
-  if (!program.project.projectFile.isSet()) program.screen.postCommand(PostedCommand::NewStore);
+  if (!program.project.projectFile.isSet()) program.screen.postCommand(Command::NewStore);
 }
 
 int AskToSave(Program& program, const std::function<int(Program&)>& saveWithBackup) {

@@ -46,7 +46,7 @@ int loadProject(Program& program) {
   ProjectReadTemplates(program);
   refreshView(program);
   if (project.currency.isNull()) project.currency.assign("$");
-  program.screen.postCommand(PostedCommand::ResizeMainWindow);
+  program.screen.postCommand(Command::ResizeMainWindow);
   return 1;
 }
 

@@ -12,6 +12,8 @@ struct Clipboard {
   virtual bool putText(std::string_view text) = 0;
   // The clipboard's plain text, empty when it has none.
   virtual std::string text() = 0;
+  // Whether there is text to paste; on Windows, whether it offers OEM text.
+  virtual bool offersText() = 0;
 };
 
 }  // namespace varlo

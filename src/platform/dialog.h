@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/geometry.h"
+
 namespace varlo {
 
 // A control of a dialog; the numbers stand in control_ids.h.
@@ -18,7 +20,9 @@ enum class Notice {
   LostFocus,      // the focus went away
   Clicked,        // a button, or a row of a list
   DoubleClicked,  // a row of a list
-  RowSelected,    // another row of a list or a combo box is selected, or none
+  RowSelected,    // another row of a list or a combo box is selected, or none; a combo box has its text after it
+  Posted,         // the logic's own, by Dialog::post
+  Other,          // anything else
 };
 
 struct ControlEvent {
@@ -30,6 +34,13 @@ struct ControlEvent {
 struct ListColumn {
   std::string_view heading;
   int width = 0;
+};
+
+// Where a control belongs.
+struct Placement {
+  ControlId control = 0;
+  Rectangle place;
+  bool shown = true;
 };
 
 inline constexpr int kNoRow = -1;
@@ -52,7 +63,16 @@ struct Dialog {
   // Paints a control anew, at once.
   virtual void repaint(ControlId control) = 0;
 
-  // Combo boxes: append a row to the list below the edit field.
+  // Rich edits: whether something is selected; the selection to and from the clipboard; another text in its
+  // place; everything selected.
+  virtual bool hasSelection(ControlId control) = 0;
+  virtual void copySelection(ControlId control) = 0;
+  virtual void paste(ControlId control) = 0;
+  virtual void replaceSelection(ControlId control, std::string_view text) = 0;
+  virtual void selectAll(ControlId control) = 0;
+
+  // Combo boxes: empty the list below the edit field, append a row.
+  virtual void clearCombo(ControlId control) = 0;
   virtual void addComboRow(ControlId control, std::string_view text) = 0;
 
   // List boxes of plain rows: empty one, append a row, scroll to a row.
@@ -71,6 +91,16 @@ struct Dialog {
   virtual int selectedRow(ControlId control) = 0;
   virtual void selectRow(ControlId control, int row) = 0;
 
+  // Moves, shows and hides controls, all at once. Sizes are pixels of this screen.
+  virtual void place(std::span<const Placement> placements) = 0;
+  [[nodiscard]] virtual Size clientSize() const = 0;
+  // `pixels` of an ordinary screen (96 dots an inch) on this one.
+  [[nodiscard]] virtual int scaled(int pixels) const = 0;
+
+  // Tells the logic Notice::Posted of `control` after the current call has returned.
+  virtual void post(ControlId control) = 0;
+  // Puts the window of a modeless dialog in front, restored if it was an icon.
+  virtual void bringToFront() = 0;
   // Closes the dialog with a result.
   virtual void end(int result) = 0;
 };
@@ -84,6 +114,10 @@ struct DialogLogic {
   virtual std::string cellText(ControlId /*list*/, int /*row*/, int /*column*/) { return {}; }
   // The window's close box or Escape; as Cancel, unless a dialog says otherwise.
   virtual void closeRequested(Dialog& dialog) { dialog.end(0); }
+  // The window has another size; also once after opened.
+  virtual void resized(Dialog& /*dialog*/) {}
+  // The window is gone. The last call.
+  virtual void closed() {}
 };
 
 }  // namespace varlo

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/browser_system.h"
 #include "platform/clipboard.h"
 #include "platform/clock.h"
 #include "platform/files.h"
@@ -15,6 +16,7 @@ struct Machine {
   std::unique_ptr<Files> files;
   std::unique_ptr<Clock> clock;
   std::unique_ptr<Clipboard> clipboard;
+  std::unique_ptr<BrowserSystem> browsers;
 };
 
 // The machine, with `folder`, as its user spells it, as working folder; empty for the current one.
@@ -28,9 +30,5 @@ struct Machine {
 
 // Whether messages on standard error are seen by a person right now.
 [[nodiscard]] bool ErrorsGoToTerminal();
-
-// Shows an address, or a file by its full name, in the browser `program`; the machine's own for an empty
-// one. False when it can't be started.
-[[nodiscard]] bool StartBrowser(Machine& machine, const std::string& program, const std::string& address);
 
 }  // namespace varlo

@@ -9,6 +9,10 @@
 #include <string>
 #include <string_view>
 
+#include "platform/command.h"
+#include "platform/dialog.h"
+#include "platform/popup_menu.h"
+
 namespace varlo {
 
 enum class Buttons { Ok, YesNo, YesNoCancel };
@@ -20,14 +24,6 @@ struct MessageBoxRequest {
   std::string_view title;
   Buttons buttons = Buttons::Ok;
   Icon icon = Icon::None;
-};
-
-// Commands that are queued behind the running one instead of being called.
-enum class PostedCommand {
-  Upgrade,           // start the upgrade program
-  NewStore,          // start the store wizard
-  NewTopCategory,    // append a category to the top-level list
-  ResizeMainWindow,  // lay the main window out again
 };
 
 // A chooser for one file. The filter is written with "$" for the separators, as in
@@ -59,7 +55,14 @@ struct Screen {
   // The chosen colour (red in the lowest byte, then green, blue), starting from `start`; none when the
   // user cancelled. The chooser shows the custom colours and changes them in place.
   virtual std::optional<std::uint32_t> chooseColour(std::uint32_t start, CustomColours& custom) = 0;
-  virtual void postCommand(PostedCommand command) = 0;
+  // Runs a modal dialog; the result that it ended with, 0 when it can't be shown.
+  virtual int runDialog(int dialogId, DialogLogic& logic) = 0;
+  // Opens a modeless dialog; null when it can't be shown. The logic must live until it is told `closed`.
+  virtual Dialog* openDialog(int dialogId, DialogLogic& logic) = 0;
+  // Shows a menu at the mouse; the command that was chosen, none when it was left.
+  virtual Command popupMenu(const PopupMenu& menu) = 0;
+  // Queues a command behind the running one instead of calling it.
+  virtual void postCommand(Command command) = 0;
 };
 
 }  // namespace varlo

@@ -2,8 +2,7 @@
 
 #include <windows.h>
 
-#include <shellapi.h>
-
+#include "win32/win32_browser.h"
 #include "win32/win32_clipboard.h"
 #include "win32/win32_clock.h"
 #include "win32/win32_files.h"
@@ -15,7 +14,8 @@ Machine MakeMachine(const std::string& folder) {
   if (!folder.empty()) ::SetCurrentDirectoryA(folder.c_str());
   return {.files = std::make_unique<Win32Files>(),
           .clock = std::make_unique<Win32Clock>(),
-          .clipboard = std::make_unique<Win32Clipboard>()};
+          .clipboard = std::make_unique<Win32Clipboard>(),
+          .browsers = std::make_unique<Win32Browser>()};
 }
 
 std::string TextFromArgument(std::string_view argument) { return std::string(argument); }
@@ -25,14 +25,6 @@ std::string TerminalText(std::string_view text) { return std::string(text); }
 bool ErrorsGoToTerminal() {
   DWORD mode = 0;
   return ::GetConsoleMode(::GetStdHandle(STD_ERROR_HANDLE), &mode) != 0;
-}
-
-// What ShellExecute gives is a number in the guise of a handle; below 32 it is an error.
-bool StartBrowser(Machine& /*machine*/, const std::string& program, const std::string& address) {
-  const char* opened = program.empty() ? address.c_str() : program.c_str();
-  const char* argument = program.empty() ? nullptr : address.c_str();
-  const HINSTANCE result = ::ShellExecuteA(nullptr, "Open", opened, argument, nullptr, SW_RESTORE);
-  return reinterpret_cast<INT_PTR>(result) >= 32;
 }
 
 }  // namespace varlo

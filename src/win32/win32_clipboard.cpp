@@ -48,4 +48,6 @@ std::string Win32Clipboard::text() {
   return text;
 }
 
+bool Win32Clipboard::offersText() { return ::IsClipboardFormatAvailable(CF_OEMTEXT) != 0; }
+
 }  // namespace varlo

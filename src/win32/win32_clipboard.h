@@ -9,6 +9,7 @@ class Win32Clipboard : public Clipboard {
  public:
   bool putText(std::string_view text) override;
   std::string text() override;
+  bool offersText() override;
 };
 
 }  // namespace varlo

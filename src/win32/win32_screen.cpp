@@ -72,7 +72,13 @@ void Win32Screen::setWaitCursor(bool on) {
   ::SetCursor(::LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(on ? IDC_WAIT : IDC_ARROW)));
 }
 
-void Win32Screen::postCommand(PostedCommand command) {
+int Win32Screen::runDialog(int /*dialogId*/, DialogLogic& /*logic*/) { return 0; }
+
+Dialog* Win32Screen::openDialog(int /*dialogId*/, DialogLogic& /*logic*/) { return nullptr; }
+
+Command Win32Screen::popupMenu(const PopupMenu& /*menu*/) { return Command::None; }
+
+void Win32Screen::postCommand(Command command) {
   ::PostMessageA(owner_, kPostedCommandMessage, static_cast<WPARAM>(command), 0);
 }
 

@@ -24,7 +24,10 @@ class Win32Screen : public Screen {
   std::optional<std::string> chooseFile(const FileChooserRequest& request) override;
   std::optional<std::string> chooseFolder(std::string_view title) override;
   std::optional<std::uint32_t> chooseColour(std::uint32_t start, CustomColours& custom) override;
-  void postCommand(PostedCommand command) override;
+  int runDialog(int dialogId, DialogLogic& logic) override;
+  Dialog* openDialog(int dialogId, DialogLogic& logic) override;
+  Command popupMenu(const PopupMenu& menu) override;
+  void postCommand(Command command) override;
 
  private:
   [[nodiscard]] HWND boxOwner() const { return taskDialog_ == nullptr ? owner_ : taskDialog_; }

@@ -206,7 +206,7 @@ TEST(NewCategory, WithAnEmptyStoreIsPostedAndStartsTheTree) {
   TestProgram t;
   NewCategoryCommand(t.program);
   EXPECT_EQ(t.project().root, nullptr);
-  ASSERT_EQ(t.screen.posted, std::vector{PostedCommand::NewTopCategory});
+  ASSERT_EQ(t.screen.posted, std::vector{Command::TreeNewCategory});
   NewTopCategory(t.program);
   EXPECT_EQ(TreeText(t.project()), "New Category");
   EXPECT_EQ(t.project().currentNode, t.project().root);

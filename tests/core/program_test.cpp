@@ -14,6 +14,7 @@ using test::TestProgram;
 struct TakenClipboard : Clipboard {
   bool putText(std::string_view) override { return false; }
   std::string text() override { return {}; }
+  bool offersText() override { return false; }
 };
 
 // Notes what the flag says when the commands are refreshed.

@@ -108,19 +108,19 @@ TEST_F(StartUpTest, EmptiesSlotsAndTemplateNames) {
 
 TEST_F(StartUpTest, WithoutAServerPostsUpgrade) {
   StartUpInWindow(t.program, [](Program&) { return 1; });
-  EXPECT_EQ(t.screen.posted, std::vector{PostedCommand::Upgrade});
+  EXPECT_EQ(t.screen.posted, std::vector{Command::Upgrade});
 }
 
 TEST_F(StartUpTest, AnEmptyServerCountsAsNone) {
   t.config().orderServer.assign("");
   StartUpInWindow(t.program, [](Program&) { return 1; });
-  EXPECT_EQ(t.screen.posted, std::vector{PostedCommand::Upgrade});
+  EXPECT_EQ(t.screen.posted, std::vector{Command::Upgrade});
 }
 
 TEST_F(StartUpTest, WithAServerAndNoProjectPostsNewStore) {
   t.config().orderServer.assign("orders.example");
   StartUpInWindow(t.program, [](Program&) { return 1; });
-  EXPECT_EQ(t.screen.posted, std::vector{PostedCommand::NewStore});
+  EXPECT_EQ(t.screen.posted, std::vector{Command::NewStore});
 }
 
 TEST_F(StartUpTest, WithAServerAndAProjectPostsNothing) {
@@ -140,7 +140,7 @@ TEST_F(StartUpTest, AFailedOpenGoesOnAsIfThereHadBeenNoFile) {
     program.project.projectFile.release();
     return 0;
   });
-  EXPECT_EQ(t.screen.posted, std::vector{PostedCommand::NewStore});
+  EXPECT_EQ(t.screen.posted, std::vector{Command::NewStore});
 }
 
 TEST_F(StartUpTest, FirstRunCountsOnlyWithoutConfigOnDisk) {
@@ -158,7 +158,7 @@ TEST_F(StartUpTest, AfterUpgradeAFirstRunShowsTheDemoOnceThenTheWizard) {
   ContinueAfterUpgrade(t.program, open);
   ContinueAfterUpgrade(t.program, open);
   EXPECT_EQ(shown, std::vector<std::string>{"Projects\\Demo\\Web\\index.html"});
-  EXPECT_EQ(t.screen.posted, (std::vector{PostedCommand::NewStore, PostedCommand::NewStore}));
+  EXPECT_EQ(t.screen.posted, (std::vector{Command::NewStore, Command::NewStore}));
 }
 
 TEST_F(StartUpTest, AfterUpgradeWithAProjectNoWizardStarts) {

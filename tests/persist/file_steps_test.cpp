@@ -146,7 +146,7 @@ TEST_F(FileStepsTest, AStartWithoutFilesNamesTheThreeMethods) {
 
 TEST_F(FileStepsTest, AStartWithoutFilesPostsUpgradeAndOpensNoProject) {
   start();
-  EXPECT_EQ(t.screen.posted, std::vector{PostedCommand::Upgrade});
+  EXPECT_EQ(t.screen.posted, std::vector{Command::Upgrade});
   EXPECT_TRUE(project.projectFile.isNull());
   EXPECT_EQ(project.root, nullptr);
   EXPECT_THAT(t.screen.tasks, IsEmpty());
@@ -306,7 +306,7 @@ TEST_F(FileStepsTest, AServerFileAloneStartsTheWizardAndShowsNoDemo) {
   t.files.put("server.ini", "server=s.example\n");
   start();
   EXPECT_STREQ(config.orderServer.get(), "s.example");
-  EXPECT_EQ(t.screen.posted, std::vector{PostedCommand::NewStore});
+  EXPECT_EQ(t.screen.posted, std::vector{Command::NewStore});
   EXPECT_THAT(t.view.calls, Not(Contains(testing::StartsWith("openInBrowser"))));
   EXPECT_EQ(config.firstRun, 1);
 }
@@ -334,7 +334,7 @@ TEST_F(FileStepsTest, AnEmptyVarloKeepsTheServerOutAndPostsUpgrade) {
   t.files.put("server.ini", "server=s\n");
   start();
   EXPECT_STREQ(config.orderServer.get(), "");
-  EXPECT_EQ(t.screen.posted, std::vector{PostedCommand::Upgrade});
+  EXPECT_EQ(t.screen.posted, std::vector{Command::Upgrade});
 }
 
 TEST_F(FileStepsTest, AServerThatWasTakenIsInTheConfigurationAfterTheExit) {
@@ -373,8 +373,8 @@ TEST_F(FileStepsTest, AStartOpensTheProjectOfTheConfiguration) {
   EXPECT_STREQ(project.variables->name.get(), "$OWN");
   EXPECT_EQ(project.variables->next, nullptr);
   EXPECT_THAT(t.screen.tasks, ElementsAre("Varlo PRO: Loading store project. Please wait........"));
-  EXPECT_THAT(t.screen.posted, Not(Contains(PostedCommand::NewStore)));
-  EXPECT_THAT(t.screen.posted, Not(Contains(PostedCommand::Upgrade)));
+  EXPECT_THAT(t.screen.posted, Not(Contains(Command::NewStore)));
+  EXPECT_THAT(t.screen.posted, Not(Contains(Command::Upgrade)));
   EXPECT_EQ(config.firstRun, 0);
   EXPECT_EQ(project.dirty, 0);
 }
@@ -384,8 +384,8 @@ TEST_F(FileStepsTest, AnOpenProjectWithoutAServerPostsUpgrade) {
   putShop();
   t.files.put("config.ini", std::string("file=") + kShop + "\n");
   start();
-  EXPECT_THAT(t.screen.posted, Contains(PostedCommand::Upgrade));
-  EXPECT_THAT(t.screen.posted, Not(Contains(PostedCommand::NewStore)));
+  EXPECT_THAT(t.screen.posted, Contains(Command::Upgrade));
+  EXPECT_THAT(t.screen.posted, Not(Contains(Command::NewStore)));
 }
 
 TEST_F(FileStepsTest, AnEmptyFileKeyOpensNothing) {
@@ -394,7 +394,7 @@ TEST_F(FileStepsTest, AnEmptyFileKeyOpensNothing) {
   start();
   EXPECT_THAT(t.screen.boxes, IsEmpty());
   EXPECT_THAT(t.screen.tasks, IsEmpty());
-  EXPECT_EQ(t.screen.posted, std::vector{PostedCommand::NewStore});
+  EXPECT_EQ(t.screen.posted, std::vector{Command::NewStore});
 }
 
 TEST_F(FileStepsTest, AProjectThatIsGoneIsToldOnceAndTheWizardStarts) {
@@ -405,7 +405,7 @@ TEST_F(FileStepsTest, AProjectThatIsGoneIsToldOnceAndTheWizardStarts) {
               ElementsAre(ShownBox{"S103: Unable to read project file 'C:\\gone\\gone.stp'", "Error"}));
   EXPECT_TRUE(project.projectFile.isNull());
   EXPECT_EQ(project.root, nullptr);
-  EXPECT_EQ(t.screen.posted, std::vector{PostedCommand::NewStore});
+  EXPECT_EQ(t.screen.posted, std::vector{Command::NewStore});
   EXPECT_FALSE(t.program.waitCursorShown);
 }
 
@@ -456,24 +456,24 @@ TEST_F(FileStepsTest, TheFirstExitEndsTheFirstRun) {
 TEST_F(FileStepsTest, AFirstRunWithoutAServerShowsTheDemoThenStartsTheWizard) {
   putLists();
   start();
-  EXPECT_EQ(t.screen.posted, std::vector{PostedCommand::Upgrade});
+  EXPECT_EQ(t.screen.posted, std::vector{Command::Upgrade});
   std::vector<std::string> shown;
   ContinueAfterUpgrade(t.program, [&](Program&, const char* page) { shown.emplace_back(page); });
   EXPECT_THAT(shown, ElementsAre("Projects\\Demo\\Web\\index.html"));
   EXPECT_EQ(config.firstRun, 0);
-  EXPECT_EQ(t.screen.posted, (std::vector{PostedCommand::Upgrade, PostedCommand::NewStore}));
+  EXPECT_EQ(t.screen.posted, (std::vector{Command::Upgrade, Command::NewStore}));
 }
 
 TEST_F(FileStepsTest, TheDemoOfAFirstRunWithAServerWaitsForTheNextUpgrade) {
   putLists();
   t.files.put("server.ini", "server=s\n");
   start();
-  EXPECT_EQ(t.screen.posted, std::vector{PostedCommand::NewStore});
+  EXPECT_EQ(t.screen.posted, std::vector{Command::NewStore});
   project.projectFile.assign(kShop);  // what the wizard made
   std::vector<std::string> shown;
   ContinueAfterUpgrade(t.program, [&](Program&, const char* page) { shown.emplace_back(page); });
   EXPECT_THAT(shown, ElementsAre("Projects\\Demo\\Web\\index.html"));
-  EXPECT_EQ(t.screen.posted, std::vector{PostedCommand::NewStore});
+  EXPECT_EQ(t.screen.posted, std::vector{Command::NewStore});
 }
 
 // The end.

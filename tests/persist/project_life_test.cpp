@@ -479,7 +479,7 @@ TEST_F(ProjectOpenPathTest, AtStartAConfiguredProjectThatIsGoneGivesOneMessage) 
   StartUpInWindow(t.program, ProjectLoad);
   EXPECT_THAT(t.screen.boxes, ElementsAre(readError("C:\\gone.stp")));
   EXPECT_TRUE(project.projectFile.isNull());
-  EXPECT_THAT(t.screen.posted, ElementsAre(PostedCommand::NewStore));
+  EXPECT_THAT(t.screen.posted, ElementsAre(Command::NewStore));
 }
 
 class ProjectOpenDialogTest : public ProjectLifeTest {

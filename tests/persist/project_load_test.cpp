@@ -35,7 +35,7 @@ TEST_F(ProjectLoadTest, TheCurrencyIsADollarWhenTheFileHasNone) {
 TEST_F(ProjectLoadTest, TheTitleOfTheWindowNamesTheFile) {
   LoadCurrent(t, "");
   EXPECT_THAT(t.view.calls, testing::Contains("setWindowTitle Varlo PRO - Shop"));
-  EXPECT_EQ(t.screen.posted, std::vector{PostedCommand::ResizeMainWindow});
+  EXPECT_EQ(t.screen.posted, std::vector{Command::ResizeMainWindow});
 }
 
 TEST_F(ProjectLoadTest, RunsInItsDialogWithTheWaitCursor) {

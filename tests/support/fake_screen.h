@@ -33,7 +33,14 @@ class FakeScreen : public Screen {
   std::vector<std::uint32_t> colourStarts;
   std::deque<std::uint32_t> colours;  // to be chosen; without one the chooser is cancelled
   std::function<void(CustomColours&)> onColours;
-  std::vector<PostedCommand> posted;  // commands that were queued
+  std::vector<Command> posted;  // commands that were queued
+  std::vector<int> dialogs;     // numbers of the dialogs that were run or opened
+  // Plays the user of a modal dialog; without it the dialog is cancelled at once.
+  std::function<int(int dialogId, DialogLogic& logic)> onDialog;
+  // Makes the window of a modeless dialog; without it none can be opened.
+  std::function<Dialog*(int dialogId, DialogLogic& logic)> onOpenDialog;
+  std::vector<PopupMenu> menus;         // that were shown
+  std::deque<Command> chosenFromMenus;  // without one the menu is left
 
   Answer messageBox(const MessageBoxRequest& request) override {
     boxes.push_back({std::string(request.text), std::string(request.title), request.buttons, request.icon});
@@ -61,7 +68,19 @@ class FakeScreen : public Screen {
     if (onColours) onColours(custom);
     return takeFirst(colours);
   }
-  void postCommand(PostedCommand command) override { posted.push_back(command); }
+  int runDialog(int dialogId, DialogLogic& logic) override {
+    dialogs.push_back(dialogId);
+    return onDialog ? onDialog(dialogId, logic) : 0;
+  }
+  Dialog* openDialog(int dialogId, DialogLogic& logic) override {
+    dialogs.push_back(dialogId);
+    return onOpenDialog ? onOpenDialog(dialogId, logic) : nullptr;
+  }
+  Command popupMenu(const PopupMenu& menu) override {
+    menus.push_back(menu);
+    return takeFirst(chosenFromMenus).value_or(Command::None);
+  }
+  void postCommand(Command command) override { posted.push_back(command); }
 
  private:
   template <typename Value>

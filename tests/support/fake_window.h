@@ -3,8 +3,10 @@
 #pragma once
 
 #include <algorithm>
+#include <deque>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/dialog.h"
@@ -15,8 +17,13 @@ class FakeWindow : public Dialog {
  public:
   explicit FakeWindow(DialogLogic& logic) : logic_(logic) {}
 
+  std::string clipboard;
+
   // The window opens, as the system does it: the logic fills it.
-  void open() { logic_.opened(*this); }
+  void open() {
+    logic_.opened(*this);
+    logic_.resized(*this);
+  }
 
   // What a user does.
   void type(ControlId control, std::string_view text) { setText(control, text); }
@@ -29,6 +36,25 @@ class FakeWindow : public Dialog {
     tell(list, Notice::RowSelected);
   }
   void close() { logic_.closeRequested(*this); }
+  void resize(Size size) {
+    size_ = size;
+    logic_.resized(*this);
+  }
+  // Selects in a rich edit, from a position to another.
+  void select(ControlId control, std::size_t from, std::size_t to) { selections_[control] = {from, to}; }
+  // Picks a row of a combo box; the field has its text after the notice.
+  void pickComboRow(ControlId combo, std::size_t row) {
+    tell(combo, Notice::RowSelected);
+    texts_[combo] = combos_[combo].at(row);
+  }
+  // What was posted reaches the logic.
+  void deliverPosts() {
+    while (!posts_.empty()) {
+      const ControlId control = posts_.front();
+      posts_.pop_front();
+      tell(control, Notice::Posted);
+    }
+  }
 
   // What a user sees.
   [[nodiscard]] bool isEnabled(ControlId control) const {
@@ -48,12 +74,19 @@ class FakeWindow : public Dialog {
 
   [[nodiscard]] const std::vector<std::string>& listBoxRows(ControlId control) { return listBoxes_[control].rows; }
   [[nodiscard]] int shownListBoxRow(ControlId control) { return listBoxes_[control].shown; }
+  [[nodiscard]] bool isShown(ControlId control) const {
+    const auto found = placements_.find(control);
+    return found == placements_.end() || found->second.shown;
+  }
+  [[nodiscard]] const std::map<ControlId, Placement>& placements() const { return placements_; }
+  [[nodiscard]] bool inFront() const { return inFront_; }
   [[nodiscard]] int progress(ControlId control) { return bars_[control].position; }
   [[nodiscard]] int progressTop(ControlId control) { return bars_[control].top; }
 
   std::string text(ControlId control) override { return texts_[control]; }
   void setText(ControlId control, std::string_view text) override {
     texts_[control] = text;
+    selections_[control] = {};
     caretAtEnd_[control] = false;
     tell(control, Notice::Changed);
   }
@@ -70,6 +103,22 @@ class FakeWindow : public Dialog {
   }
   void caretToEnd(ControlId control) override { caretAtEnd_[control] = true; }
   void repaint(ControlId control) override { ++repaints_[control]; }
+  bool hasSelection(ControlId control) override { return selections_[control].first < selections_[control].second; }
+  void copySelection(ControlId control) override { clipboard = selectedText(control); }
+  void paste(ControlId control) override { replaceSelection(control, clipboard); }
+  void replaceSelection(ControlId control, std::string_view text) override {
+    const auto [from, to] = selections_[control];
+    setText(control, std::string(texts_[control]).replace(from, to - from, text));
+  }
+  void selectAll(ControlId control) override { select(control, 0, texts_[control].size()); }
+  void place(std::span<const Placement> placements) override {
+    for (const Placement& placement : placements) placements_[placement.control] = placement;
+  }
+  [[nodiscard]] Size clientSize() const override { return size_; }
+  [[nodiscard]] int scaled(int pixels) const override { return pixels; }
+  void post(ControlId control) override { posts_.push_back(control); }
+  void bringToFront() override { inFront_ = true; }
+  void clearCombo(ControlId control) override { combos_[control].clear(); }
   void addComboRow(ControlId control, std::string_view text) override { combos_[control].emplace_back(text); }
   void clearListBox(ControlId control) override { listBoxes_[control] = {}; }
   void addListBoxRow(ControlId control, std::string_view text) override {
@@ -105,6 +154,10 @@ class FakeWindow : public Dialog {
     int top = 100;
     int position = 0;
   };
+  [[nodiscard]] std::string selectedText(ControlId control) {
+    const auto [from, to] = selections_[control];
+    return texts_[control].substr(from, to - from);
+  }
   void tell(ControlId control, Notice notice) { logic_.notified(*this, {control, notice}); }
 
   DialogLogic& logic_;
@@ -119,6 +172,11 @@ class FakeWindow : public Dialog {
   std::map<ControlId, Rows> rows_;
   std::map<ControlId, ListBox> listBoxes_;
   std::map<ControlId, Bar> bars_;
+  std::map<ControlId, std::pair<std::size_t, std::size_t>> selections_;
+  std::map<ControlId, Placement> placements_;
+  std::deque<ControlId> posts_;
+  Size size_{640, 480};
+  bool inFront_ = false;
   ControlId focused_ = 0;
   bool open_ = true;
   int result_ = 0;

@@ -81,10 +81,10 @@ TEST(Win32Screen, ACommandIsPostedToTheOwner) {
       ::CreateWindowA("STATIC", "owner", WS_OVERLAPPED, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
   ASSERT_NE(window, nullptr);
   Win32Screen screen(window);
-  screen.postCommand(PostedCommand::NewStore);
+  screen.postCommand(Command::NewStore);
   MSG message{};
   ASSERT_NE(::PeekMessageA(&message, window, kPostedCommandMessage, kPostedCommandMessage, PM_REMOVE), 0);
-  EXPECT_EQ(message.wParam, static_cast<WPARAM>(PostedCommand::NewStore));
+  EXPECT_EQ(message.wParam, static_cast<WPARAM>(Command::NewStore));
   ::DestroyWindow(window);
 }
 

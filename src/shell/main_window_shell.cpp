@@ -1,0 +1,51 @@
+#include "shell/main_window_shell.h"
+
+#include "core/program.h"
+#include "shell/command_states.h"
+#include "shell/commands.h"
+#include "shell/item_list.h"
+#include "shell/main_layout.h"
+#include "shell/main_window_life.h"
+#include "shell/node_moves.h"
+#include "shell/node_selection.h"
+#include "shell/tab_switch.h"
+#include "shell/toolbar.h"
+#include "shell/tree_items.h"
+
+namespace varlo {
+
+void MainWindowShell::opened(MainWindow& window) { setUpMainWindow(shell_, window); }
+void MainWindowShell::command(Command command) { dispatchCommand(shell_, command); }
+void MainWindowShell::tabSelected(int tab) { switchTab(shell_, static_cast<Tab>(tab)); }
+void MainWindowShell::resized() { resizeMainWindow(shell_); }
+void MainWindowShell::moved() {}
+void MainWindowShell::closeRequested() { dispatchCommand(shell_, Command::Quit); }
+void MainWindowShell::closing() { closeMainWindow(shell_); }
+std::string_view MainWindowShell::toolTip(Command command) { return toolTipOf(command); }
+void MainWindowShell::focusMoved() { refreshCommandStates(shell_); }
+
+void MainWindowShell::treeSelectionChanged(TreeItem item) { onTreeSelection(shell_, item); }
+void MainWindowShell::treeItemExpanding(TreeItem item) { onTreeExpanding(shell_, item); }
+bool MainWindowShell::treeKey(Key key) { return onTreeKey(shell_, key); }
+void MainWindowShell::treeRightClicked(Point point) { onTreeRightClicked(shell_, point); }
+void MainWindowShell::treeDragBegun(TreeItem item) { onTreeDragBegun(shell_, item); }
+
+std::string_view MainWindowShell::cellText(ItemData data, int column) {
+  return varlo::cellText(*static_cast<StoreNode*>(data), column);
+}
+int MainWindowShell::rowIcon(ItemData data) { return iconOf(*static_cast<StoreNode*>(data)); }
+void MainWindowShell::rowClicked(int row) { onRowClicked(shell_, row); }
+void MainWindowShell::rowDoubleClicked(int row) { onRowDoubleClicked(shell_, row); }
+void MainWindowShell::rowChanged(int row) { onRowChanged(shell_, row); }
+void MainWindowShell::columnClicked(int column) { sortItemList(shell_, column); }
+void MainWindowShell::listKey(Key key, bool control) { onListKey(shell_, key, control); }
+void MainWindowShell::listRightClicked(Point point) { onListRightClicked(shell_, point); }
+void MainWindowShell::listDragBegun(int row) { onListDragBegun(shell_, row); }
+
+void MainWindowShell::dragMoved(Point point) { onDragMoved(shell_, point); }
+void MainWindowShell::dragTicked() {
+  if (shell_.mainWindow != nullptr) onDragMoved(shell_, shell_.mainWindow->cursor());
+}
+void MainWindowShell::dragReleased(Point point) { onDragReleased(shell_, point); }
+
+}  // namespace varlo

@@ -1,0 +1,64 @@
+// Shell: the state behind the main window, and how the user's doings reach the model.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "generator/generator.h"
+#include "platform/browser_system.h"
+#include "platform/main_window.h"
+
+namespace varlo {
+
+struct Program;
+class StoreBuildDialog;
+
+// The tabs, in the order of the tab control.
+enum class Tab { Inventory, Template, Freight, OrderForm, Confirmation, Layout, Variables };
+inline constexpr int kTabs = 7;
+
+struct Shell {
+  Shell(Program& theProgram, BrowserSystem& theBrowsers);
+  ~Shell();
+  Shell(const Shell&) = delete;
+  Shell& operator=(const Shell&) = delete;
+
+  Program& program;
+  BrowserSystem& browsers;
+  Generator generator;
+  std::unique_ptr<StoreBuildDialog> buildDialog;  // kept until the next one is opened
+
+  MainWindow* mainWindow = nullptr;  // while it is open
+  Dialog* tabPage = nullptr;         // the page of the open tab; null while it is swapped
+  std::unique_ptr<DialogLogic> pageLogic;
+  Tab currentTab = Tab::Inventory;
+
+  bool fromList = false;  // currentNode was picked in the item list
+  bool hitItem = false;   // the last right click hit an item or a row
+
+  // Guards. A change that filling causes must not reach the model.
+  bool formLoading = false;         // a page is being filled
+  bool formBusy = false;            // neither loadForm nor readForm does anything
+  bool notificationsMuted = false;  // the tree or the list is being filled
+  bool listFrozen = false;          // loadItemList does nothing, while a node is moved by key
+  bool listBusy = false;            // rows are being deleted; clicks do nothing
+
+  // The form.
+  std::optional<std::string> descriptionCache;  // text last put into the rich edit of a page
+  ControlId focusedField = 0;                   // the field that the Edit dialog mirrors
+  ControlId linkedField = 0;
+
+  // The tree and the list.
+  int listKeyCountdown = 0;  // row changes until one of a key press counts
+  bool ctrlSeen = false;     // Ctrl was pressed in the tree; only a move up takes it back
+  bool treeDragging = false;
+  bool listDragging = false;
+  int dragRow = kNoRow;                  // highlighted while dragging
+  TreeItem dropHighlight = kNoTreeItem;  // the same in the tree
+
+  bool launchBusy = false;  // a browser is being spoken to
+};
+
+}  // namespace varlo

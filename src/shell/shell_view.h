@@ -1,0 +1,33 @@
+// ShellView: what the model tells the screen, shown in the main window.
+#pragma once
+
+#include "core/view.h"
+
+namespace varlo {
+
+struct Shell;
+
+class ShellView : public View {
+ public:
+  // The program needs a view before the shell can be made of it.
+  void setShell(Shell* shell) { shell_ = shell; }
+
+  void loadForm() override;
+  void loadItemList(StoreNode* holder) override;
+  void refreshCommandStates() override;
+  void clearTree() override;
+  void fillTree() override;
+  void insertTreeItem(StoreNode& node, StoreNode* behind) override;
+  void moveTreeItem(StoreNode& node) override;
+  void removeTreeItem(StoreNode& node) override;
+  void refreshTreeItem(StoreNode& node) override;
+  void selectInTree(StoreNode& node) override;
+  void openInBrowser(std::string_view address) override;
+  void storeForm() override;
+  void setWindowTitle(std::string_view title) override;
+
+ private:
+  Shell* shell_ = nullptr;
+};
+
+}  // namespace varlo

@@ -1,0 +1,45 @@
+// The store tree in the tree control: the items of the nodes.
+#pragma once
+
+#include "platform/main_window.h"
+
+namespace varlo {
+
+struct Shell;
+struct StoreNode;
+
+// The node of an item, null for none.
+[[nodiscard]] StoreNode* nodeOfItem(const Shell& shell, TreeItem item);
+
+// Index of a node's icon in the shared image list, by kind and status.
+[[nodiscard]] int iconOf(const StoreNode& node);
+
+// Inserts one item and keeps it in the node. A control that refuses it is told to the user.
+void insertTreeItem(Shell& shell, StoreNode& node, TreeItem parent, TreeItem behind);
+
+// Inserts the chain from `first`, each node with all below it. The chain's items follow `behind`.
+void insertTreeBranch(Shell& shell, StoreNode* first, TreeItem parent, TreeItem behind);
+
+// Inserts a node's item anew, with its branch, where the node is linked now.
+void moveTreeItem(Shell& shell, StoreNode& node);
+
+void removeTreeItem(Shell& shell, StoreNode& node);
+
+// Refresh one thing of a node's item, if it has one.
+void refreshIcon(Shell& shell, StoreNode& node);
+void refreshLabel(Shell& shell, StoreNode& node);
+void refreshChildrenFlag(Shell& shell, StoreNode& node);
+
+// Selects the node's item and makes it visible.
+void selectInTree(Shell& shell, StoreNode& node);
+
+// Empties the tree and the item list.
+void clearTree(Shell& shell);
+
+// Inserts the whole tree from the root, with its notifications muted.
+void fillTree(Shell& shell);
+
+// Fills tree and item list anew.
+void refillTree(Shell& shell);
+
+}  // namespace varlo
