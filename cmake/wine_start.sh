@@ -1,6 +1,7 @@
 #!/bin/sh
-# wine_start.sh BUILD_FOLDER: makes the Wine prefix of a build folder, unless it is there, and starts
-# its server. A prefix is made once; a new version of Wine or of this file makes it anew.
+# wine_start.sh BUILD_FOLDER [DRIVER]: makes the Wine prefix of a build folder, unless it is there, and starts
+# its server. A prefix is made once; a new version of Wine or of this file makes it anew. DRIVER is how windows
+# are shown: null, not at all, as tests want it, or x11.
 #
 # The server, and the services that the first program starts, outlive this script and keep the output
 # that they were given. If that were the pipe of a caller, the caller would wait for its end for ever.
@@ -9,10 +10,11 @@ set -eu
 here=$(CDPATH='' cd -- "$(dirname -- "$0")" && pwd)
 . "$here/wine_environment.sh"
 use_wine_of "$1"
+driver=${2:-null}
 
-if [ "${2-}" != redirected ]; then
+if [ "${3-}" != redirected ]; then
   # -o: the server must not inherit the lock either.
-  flock -o "$WINEPREFIX.lock" "$here/wine_start.sh" "$1" redirected </dev/null >"$WINEPREFIX.log" 2>&1 && exit 0
+  flock -o "$WINEPREFIX.lock" "$here/wine_start.sh" "$1" "$driver" redirected </dev/null >"$WINEPREFIX.log" 2>&1 && exit 0
   echo "Wine does not start; from $WINEPREFIX.log:" >&2
   tail -n 20 -- "$WINEPREFIX.log" >&2
   exit 1
@@ -27,7 +29,7 @@ link_dlls() {
   done
 }
 
-# The user's folders lead to the home folder at first. No test shall write there.
+# The user's folders lead to the home folder at first. Nothing shall be written there.
 keep_out_of_home() {
   find "$WINEPREFIX/drive_c/users" -type l | while IFS= read -r link; do
     rm -- "$link"
@@ -41,8 +43,8 @@ make_prefix() {
   mkdir -- "$WINEPREFIX"
   wineserver -k || true # one that was left by a removed prefix, whose identity this one may have got
   timeout 120 wineboot -i
-  # No X server is needed, and a crash gives a back trace instead of a window that waits for a click.
-  wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f
+  wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d "$driver" /f
+  # A crash gives a back trace instead of a window that waits for a click.
   wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f
   wineserver -w
   # An update would write through the links into Wine's own files.
@@ -52,7 +54,7 @@ make_prefix() {
   echo "$made_by" >"$WINEPREFIX/ready"
 }
 
-made_by="$(wine --version) $(cksum <"$here/wine_start.sh")"
+made_by="$(wine --version) $(cksum <"$here/wine_start.sh") $driver"
 if [ "$(cat "$WINEPREFIX/ready" 2>/dev/null)" != "$made_by" ]; then make_prefix; fi
 
 # A server that stays between two programs spares each the second in which its services come and go.

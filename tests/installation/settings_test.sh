@@ -1,0 +1,76 @@
+#!/bin/bash
+# settings_test.sh FIRST_SETTINGS OPEN_BROWSER: the settings that an installation starts with, and the script that they
+# name as the browser. A stand-in for xdg-open writes down what it is asked to show.
+set -u
+first_settings=$(readlink -e "$1")
+open_browser=$(readlink -e "$2")
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work" || exit 2
+failures=0
+
+fail() {
+  failures=$((failures + 1))
+  echo "FAILED: $*" >&2
+}
+
+# ---- first settings
+
+install='my store é'
+mkdir -p "$install/Projects/Demo"
+windows="Z:${work//\//\\}\\my store "$'\xe9'
+"$first_settings" "$install" || fail "no settings were written"
+printf 'browser=%s\\open_browser.sh\nfile=%s\\Projects\\Demo\\Demo.stp\n' "$windows" "$windows" >expected
+cmp expected "$install/config.ini" || fail "the first settings are not as expected"
+
+echo 'view=1' >"$install/config.ini"
+"$first_settings" "$install" || fail "settings that are there make the script fail"
+[ "$(cat "$install/config.ini")" = 'view=1' ] || fail "settings that were there are not kept"
+
+mkdir 'Ω'
+"$first_settings" 'Ω' 2>err && fail "a folder without a name in Windows got settings"
+grep -q 'cannot name' err || fail "it is not told why there are no settings"
+[ -z "$(ls 'Ω')" ] || fail "settings were begun"
+
+# ---- the browser
+
+mkdir bin 'A site' prefix prefix/dosdevices prefix/drive_c
+touch 'A site/a page.htm' 'A site/new.htm' prefix/drive_c/c.htm
+ln -s ../drive_c prefix/dosdevices/c:
+printf '#!/bin/sh\nprintf "%%s|" "$#" "$@" >"%s/shown"\n' "$work" >bin/xdg-open
+printf '#!/bin/sh\nprintf "%%s" "/found/by/wine of $2"\n' >bin/winepath
+chmod +x bin/*
+
+# shows ADDRESS WANTED: as Wine hands it over, cut at blanks.
+shows() {
+  local words
+  read -ra words <<<"$1"
+  rm -f shown
+  PATH=$work/bin:$PATH WINEPREFIX=$work/prefix "$open_browser" "${words[@]}" >out 2>&1 </dev/null || fail "'$1' ended with status $?"
+  [ ! -s out ] || fail "'$1' wrote to the program's output"
+  [ "$(cat shown)" = "1|$2|" ] || fail "'$1' showed '$(cat shown)', not '$2'"
+}
+back=${work//\//\\}
+shows "Z:$back\\A site\\a page.htm" "$work/A site/a page.htm"
+shows "z:$work/A site/a page.htm" "$work/A site/a page.htm"
+# A back slash and a letter are no control character.
+shows "Z:$back\\A site\\new.htm" "$work/A site/new.htm"
+shows 'C:\c.htm' "$work/prefix/dosdevices/c:/c.htm"
+# What is not there by that name is asked of Wine, which minds no letter case.
+shows "Z:$back\\a SITE\\new.htm" "/found/by/wine of Z:$back\\a SITE\\new.htm"
+shows 'https://varlo.example/a?b=c\new%20d&e' 'https://varlo.example/a?b=c\new%20d&e'
+shows 'http://varlo.example/' 'http://varlo.example/'
+shows 'mailto:shop@varlo.example?subject=A%20cup' 'mailto:shop@varlo.example?subject=A%20cup'
+
+# Without Wine's help, the path as it can be told.
+rm bin/winepath
+mkdir none
+ln -s "$work/bin/xdg-open" none/
+PATH=$work/none "$open_browser" 'Z:\gone\page.htm' || fail "a page that is not there ended with status $?"
+[ "$(cat shown)" = '1|/gone/page.htm|' ] || fail "without Wine, '$(cat shown)' was shown"
+rm none/xdg-open
+PATH=$work/none "$open_browser" 'Z:\gone\page.htm'
+[ $? -eq 127 ] || fail "without a browser the status is not 127"
+
+[ "$failures" -eq 0 ] && echo "the first settings are right"
+exit $((failures > 0))
