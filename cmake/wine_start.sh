@@ -37,6 +37,12 @@ keep_out_of_home() {
   done
 }
 
+# The font of the signs in title bars, scroll bars and menus, from the package fonts-wine. Wine does not find it there.
+link_signs() {
+  signs=/usr/share/wine/fonts/marlett.ttf
+  if [ -f "$signs" ]; then ln -sf -- "$signs" "$WINEPREFIX/drive_c/windows/Fonts/"; fi
+}
+
 make_prefix() {
   wineserver -k || true
   rm -rf -- "$WINEPREFIX"
@@ -56,6 +62,7 @@ make_prefix() {
 
 made_by="$(wine --version) $(cksum <"$here/wine_start.sh") $driver"
 if [ "$(cat "$WINEPREFIX/ready" 2>/dev/null)" != "$made_by" ]; then make_prefix; fi
+link_signs
 
 # A server that stays between two programs spares each the second in which its services come and go.
 # It leaves by itself after five minutes without a program.
