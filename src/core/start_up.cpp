@@ -78,12 +78,12 @@ void StartUp(Program& program, const StartUpSteps& steps) {
   for (Text& name : project.templateNames) name.release();
 }
 
-void StartUpInWindow(Program& program, const std::function<int(Program&)>& loadProject) {
-  if (program.project.projectFile.isSet()) {
-    WaitCursorOn(program);
-    loadProject(program);
-    WaitCursorOff(program);
-  }
+void StartUpInWindow(Program& program, const WindowSteps& steps) {
+  WaitCursorOn(program);
+  if (steps.loadProject && program.project.projectFile.isSet()) steps.loadProject(program);
+  run(steps.openPage, program);
+  WaitCursorOff(program);
+  run(steps.show, program);
   decideFirstCommand(program);
   if (FileExists(program.files, "config.ini") == 0) ++program.config.firstRun;
 }

@@ -24,10 +24,16 @@ struct StartUpSteps {
 // Brings the state up to the point where the main window opens.
 void StartUp(Program& program, const StartUpSteps& steps);
 
-// What the main window does while it comes up: loads the project that the configuration names, with
-// `loadProject`, and decides what comes next: Upgrade without an order server, else New Store without a
-// project. Without a config.ini on disk the first-run counter goes up.
-void StartUpInWindow(Program& program, const std::function<int(Program&)>& loadProject);
+// What the main window does while it comes up. An empty function is skipped.
+struct WindowSteps {
+  std::function<int(Program&)> loadProject{};  // the one that the configuration names
+  std::function<void(Program&)> openPage{};    // while the wait cursor is still shown
+  std::function<void(Program&)> show{};        // the rest of the window
+};
+
+// Loads the project that the configuration names, shows it, and decides what comes next: Upgrade without an
+// order server, else New Store without a project. Without a config.ini on disk the first-run counter goes up.
+void StartUpInWindow(Program& program, const WindowSteps& steps);
 
 // What goes on after the upgrade program was started: the demo page on a first run, through
 // `openInBrowser`, then New Store without a project.

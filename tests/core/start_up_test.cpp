@@ -107,19 +107,19 @@ TEST_F(StartUpTest, EmptiesSlotsAndTemplateNames) {
 }
 
 TEST_F(StartUpTest, WithoutAServerPostsUpgrade) {
-  StartUpInWindow(t.program, [](Program&) { return 1; });
+  StartUpInWindow(t.program, {});
   EXPECT_EQ(t.screen.posted, std::vector{Command::Upgrade});
 }
 
 TEST_F(StartUpTest, AnEmptyServerCountsAsNone) {
   t.config().orderServer.assign("");
-  StartUpInWindow(t.program, [](Program&) { return 1; });
+  StartUpInWindow(t.program, {});
   EXPECT_EQ(t.screen.posted, std::vector{Command::Upgrade});
 }
 
 TEST_F(StartUpTest, WithAServerAndNoProjectPostsNewStore) {
   t.config().orderServer.assign("orders.example");
-  StartUpInWindow(t.program, [](Program&) { return 1; });
+  StartUpInWindow(t.program, {});
   EXPECT_EQ(t.screen.posted, std::vector{Command::NewStore});
 }
 
@@ -127,7 +127,7 @@ TEST_F(StartUpTest, WithAServerAndAProjectPostsNothing) {
   t.config().orderServer.assign("orders.example");
   t.project().projectFile.assign("C:\\a.stp");
   int loads = 0;
-  StartUpInWindow(t.program, [&](Program&) { return ++loads; });
+  StartUpInWindow(t.program, {.loadProject = [&](Program&) { return ++loads; }});
   EXPECT_EQ(loads, 1);
   EXPECT_TRUE(t.screen.posted.empty());
   EXPECT_EQ(t.screen.waitCursor, (std::vector<bool>{true, false}));
@@ -136,18 +136,37 @@ TEST_F(StartUpTest, WithAServerAndAProjectPostsNothing) {
 TEST_F(StartUpTest, AFailedOpenGoesOnAsIfThereHadBeenNoFile) {
   t.config().orderServer.assign("orders.example");
   t.project().projectFile.assign("C:\\a.stp");
-  StartUpInWindow(t.program, [](Program& program) {
-    program.project.projectFile.release();
-    return 0;
-  });
+  StartUpInWindow(t.program, {.loadProject = [](Program& program) {
+                    program.project.projectFile.release();
+                    return 0;
+                  }});
   EXPECT_EQ(t.screen.posted, std::vector{Command::NewStore});
 }
 
+TEST_F(StartUpTest, TheWindowOpensItsPageUnderTheWaitCursorAndShowsTheRestBeforeTheFirstCommand) {
+  t.project().projectFile.assign("C:\\a.stp");
+  const auto noteWithCursor = [this](const char* name) {
+    return [this, name](Program& program) {
+      order.push_back(std::string(name) + (program.waitCursorShown ? ", waiting" : ""));
+      program.screen.postCommand(Command::RefillTree);
+    };
+  };
+  StartUpInWindow(t.program, {.loadProject =
+                                  [this](Program&) {
+                                    order.emplace_back("load");
+                                    return 1;
+                                  },
+                              .openPage = noteWithCursor("page"),
+                              .show = noteWithCursor("show")});
+  EXPECT_EQ(order, (std::vector<std::string>{"load", "page, waiting", "show"}));
+  EXPECT_EQ(t.screen.posted, (std::vector{Command::RefillTree, Command::RefillTree, Command::Upgrade}));
+}
+
 TEST_F(StartUpTest, FirstRunCountsOnlyWithoutConfigOnDisk) {
-  StartUpInWindow(t.program, [](Program&) { return 1; });
+  StartUpInWindow(t.program, {});
   EXPECT_EQ(t.config().firstRun, 1);
   t.files.put("config.ini", "");
-  StartUpInWindow(t.program, [](Program&) { return 1; });
+  StartUpInWindow(t.program, {});
   EXPECT_EQ(t.config().firstRun, 1);
 }
 

@@ -57,7 +57,7 @@ class FileStepsTest : public testing::Test {
   }
   static void start(TestProgram& program) {
     StartUp(program.program, FileStartUpSteps());
-    StartUpInWindow(program.program, ProjectLoad);
+    StartUpInWindow(program.program, {.loadProject = ProjectLoad});
   }
   void start() { start(t); }
   // Quit, and the end of the main window.

@@ -476,7 +476,7 @@ TEST_F(ProjectOpenPathTest, AFileThatIsThereIsNotMadeNew) {
 TEST_F(ProjectOpenPathTest, AtStartAConfiguredProjectThatIsGoneGivesOneMessage) {
   t.files.put("config.ini", "varlo=http://server\nfile=C:\\gone.stp\n");
   ConfigRead(t.program, "config.ini");
-  StartUpInWindow(t.program, ProjectLoad);
+  StartUpInWindow(t.program, {.loadProject = ProjectLoad});
   EXPECT_THAT(t.screen.boxes, ElementsAre(readError("C:\\gone.stp")));
   EXPECT_TRUE(project.projectFile.isNull());
   EXPECT_THAT(t.screen.posted, ElementsAre(Command::NewStore));
