@@ -13,6 +13,9 @@ inline constexpr std::string_view kProductVersion = "1.07";
 inline constexpr std::string_view kProductRelease = "001";
 // The product's own site; every address on it starts with this.
 inline constexpr std::string_view kProductSite = "https://www.varlo.example";
+// Sites that carry the same updates.
+inline constexpr std::string_view kUpdateMirrors[] = {"https://mirror1.varlo.example",
+                                                      "https://mirror2.varlo.example"};
 
 namespace message {
 
@@ -90,6 +93,14 @@ inline constexpr std::string_view kUpgradeOrderConfirm =
     "replace your Order form, and Confirmation page templates.  If you have made changes to these templates, a "
     "copy of the changed versions will be saved as order.bak and confirm.bak in your project's template "
     "directory.";
+
+// The main window.
+inline constexpr std::string_view kServerMissing =
+    "No Varlo server selected.  Please select an Varlo server address in Preferences.";
+inline constexpr std::string_view kServerMissingTitle = "Configuration Error";
+inline constexpr std::string_view kResizeError = "Window resizing failed!";
+inline constexpr std::string_view kUpgradeError = "Unable to execute Upgrade Wizard 'upgrade.exe'";
+inline constexpr std::string_view kUpgradeErrorTitle = "Upgrade Error";
 
 }  // namespace message
 

@@ -28,6 +28,9 @@ struct MainLayout {
 
 [[nodiscard]] MainLayout layOutMainWindow(const LayoutFacts& facts);
 
+// The facts of the window that is open.
+[[nodiscard]] LayoutFacts layoutFactsOf(const Shell& shell);
+
 // Lays the window out for its size, with the parts of its status bar, and paints it anew. Tells the user when
 // there is no page.
 void resizeMainWindow(Shell& shell);

@@ -29,6 +29,7 @@ struct Shell {
   BrowserSystem& browsers;
   Generator generator;
   std::unique_ptr<StoreBuildDialog> buildDialog;  // kept until the next one is opened
+  Dialog* buildWindow = nullptr;                  // its window; valid while the generator logs to the dialog
 
   MainWindow* mainWindow = nullptr;  // while it is open
   Dialog* tabPage = nullptr;         // the page of the open tab; null while it is swapped

@@ -1,0 +1,178 @@
+#include "shell/commands.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "core/messages.h"
+#include "core/program.h"
+#include "persist/preferences_dialog.h"
+#include "persist/project_life.h"
+#include "persist/project_merge.h"
+#include "persist/restore_dialog.h"
+#include "persist/save_as_dialog.h"
+#include "platform/control_ids.h"
+#include "shell/browser.h"
+#include "shell/build_window.h"
+#include "shell/command_states.h"
+#include "shell/focus_commands.h"
+#include "shell/form.h"
+#include "shell/item_list.h"
+#include "shell/main_layout.h"
+#include "shell/main_window_life.h"
+#include "shell/node_changes.h"
+#include "shell/preview_command.h"
+#include "shell/shell.h"
+#include "shell/tree_items.h"
+#include "shell/upgrade.h"
+
+namespace varlo {
+namespace {
+
+void openStore(Shell& shell) {
+  ProjectOpenDialog(shell.program);
+  loadForm(shell);
+  refreshCommandStates(shell);
+}
+
+void save(Shell& shell) { ProjectSaveNow(shell.program); }
+
+template <typename Logic, int dialogId>
+void runDialog(Shell& shell) {
+  Logic logic(shell.program);
+  shell.program.screen.runDialog(dialogId, logic);
+  refreshCommandStates(shell);
+}
+
+std::optional<std::string> chooseOtherProject(Program& program) {
+  return program.screen.chooseFile({.folder = ProjectsFolder(program),
+                                    .title = message::kImportTitle,
+                                    .filter = message::kProjectFilter,
+                                    .extension = "stp"});
+}
+
+// The tree was filled anew, so its selection is gone and the form may show what was read over.
+void merge(Shell& shell) {
+  const std::optional<std::string> path = chooseOtherProject(shell.program);
+  if (!path || ProjectMerge(shell.program, path->c_str()) == 0) return;
+  StoreNode* current = shell.program.project.currentNode;
+  if (current != nullptr) selectInTree(shell, *current);
+  loadForm(shell);
+}
+
+void importFreight(Shell& shell) {
+  const std::optional<std::string> path = chooseOtherProject(shell.program);
+  if (path) FreightImport(shell.program, path->c_str());
+}
+
+void disable(Shell& shell) { shell.fromList ? disableRows(shell) : disableNode(shell); }
+void enable(Shell& shell) { shell.fromList ? enableRows(shell) : enableNode(shell); }
+
+template <NodeKind kind>
+void makeNode(Shell& shell) {
+  newNode(shell, kind);
+}
+
+void newCategory(Shell& shell) {
+  shell.hitItem = shell.program.project.root != nullptr;
+  if (shell.hitItem) {
+    newNode(shell, NodeKind::Category);
+  } else {
+    shell.program.screen.postCommand(Command::TreeNewCategory);
+  }
+}
+
+void newCategoryAtMouse(Shell& shell) { shell.hitItem ? newNode(shell, NodeKind::Category) : newTopCategory(shell); }
+
+template <std::int32_t bit, Command entry>
+void toggleView(Shell& shell) {
+  std::int32_t& flags = shell.program.config.viewFlags;
+  flags ^= bit;
+  resizeMainWindow(shell);
+  if (shell.mainWindow != nullptr) shell.mainWindow->checkEntry(entry, (flags & bit) != 0);
+}
+
+void openOnSite(Shell& shell, std::string_view path) { openInBrowser(shell, std::string(kProductSite).append(path)); }
+void openFaq(Shell& shell) { openOnSite(shell, "/faq/varlo.faq"); }
+void openManual(Shell& shell) { openOnSite(shell, "/varlo/manual.htm"); }
+
+struct CommandRow {
+  Command command = Command::None;
+  void (*run)(Shell&) = nullptr;
+};
+
+constexpr CommandRow kCommands[] = {
+    {Command::OpenStore, openStore},
+    {Command::Save, save},
+    {Command::SaveAs, runDialog<SaveAsDialog, dialog::kSaveAs>},
+    {Command::RestoreBackup, runDialog<RestoreDialog, dialog::kRestore>},
+    {Command::Merge, merge},
+    {Command::Upgrade, launchUpgrade},
+    {Command::Quit, quit},
+
+    {Command::Copy, copyAtFocus},
+    {Command::Paste, pasteAtFocus},
+    {Command::Disable, disable},
+    {Command::Enable, enable},
+    {Command::Delete, deleteAtFocus},
+    {Command::NewCategory, newCategory},
+    {Command::NewProduct, newProduct},
+    {Command::NewShelf, makeNode<NodeKind::Shelf>},
+    {Command::NewList, makeNode<NodeKind::List>},
+    {Command::SelectAll, selectAllAtFocus},
+
+    {Command::ViewOrders, viewOrders},
+    {Command::ToggleToolbar, toggleView<kViewToolbar, Command::ToggleToolbar>},
+    {Command::ToggleButtons, toggleView<kViewButtons, Command::ToggleButtons>},
+
+    {Command::Preferences, runDialog<PreferencesDialog, dialog::kPreferences>},
+    {Command::PreviewPage, previewCurrent},
+    {Command::BuildStore, openBuildWindow},
+    {Command::ImportFreight, importFreight},
+
+    {Command::Faq, openFaq},
+    {Command::Manual, openManual},
+
+    {Command::TreeNewCategory, newCategoryAtMouse},
+    {Command::TreeCopy, copyNode},
+    {Command::TreePaste, pasteNode},
+    {Command::TreeDelete, deleteTreeNode},
+    {Command::TreeDisable, disableNode},
+    {Command::TreeEnable, enableNode},
+
+    {Command::ListCopy, copyNode},
+    {Command::ListPaste, pasteNode},
+    {Command::ListDelete, deleteRows},
+    {Command::ListDisable, disableRows},
+    {Command::ListEnable, enableRows},
+    {Command::ListSelectAll, selectAllRows},
+
+    {Command::RefillTree, refillTree},
+    {Command::ResizeMainWindow, resizeMainWindow},
+};
+
+}  // namespace
+
+void dispatchCommand(Shell& shell, Command command) {
+  const auto* row = std::ranges::find(kCommands, command, &CommandRow::command);
+  if (row != std::end(kCommands)) row->run(shell);
+}
+
+void selectCurrent(Shell& shell, StoreNode* node) {
+  if (node == nullptr) {
+    if (shell.mainWindow != nullptr) shell.mainWindow->controls().enable(control::main::kPreview, false);
+    return;
+  }
+  shell.program.project.currentNode = shell.program.project.treeNode = node;
+  shell.fromList = false;
+  loadItemList(shell, node);
+  loadForm(shell);
+}
+
+bool requireServer(Shell& shell) {
+  if (shell.program.config.orderServer.isSet()) return true;
+  shell.program.screen.messageBox({.text = message::kServerMissing, .title = message::kServerMissingTitle, .icon = Icon::Stop});
+  return false;
+}
+
+}  // namespace varlo

@@ -1,0 +1,68 @@
+#include "shell/focus_commands.h"
+
+#include "core/program.h"
+#include "platform/control_ids.h"
+#include "shell/item_list.h"
+#include "shell/node_changes.h"
+#include "shell/shell.h"
+
+namespace varlo {
+namespace {
+
+using PageAction = void (*)(Dialog& page, ControlId richEdit);
+
+// Runs `action` on the rich edit that has the focus. False when none has.
+bool onRichEdit(Shell& shell, PageAction action) {
+  if (shell.tabPage == nullptr || focusPlace(shell) != FocusPlace::RichEdit) return false;
+  action(*shell.tabPage, richEditOf(shell.currentTab));
+  return true;
+}
+
+}  // namespace
+
+ControlId richEditOf(Tab tab) { return tab == Tab::Inventory ? control::inventory::kDescription : 0; }
+
+FocusPlace focusPlace(const Shell& shell) {
+  if (shell.mainWindow == nullptr) return FocusPlace::Elsewhere;
+  const Focus focus = shell.mainWindow->focus();
+  switch (focus.place) {
+    case Focus::Place::Tree:
+      return FocusPlace::Tree;
+    case Focus::Place::ItemList:
+      return FocusPlace::ItemList;
+    case Focus::Place::Page:
+      return focus.control != 0 && focus.control == richEditOf(shell.currentTab) ? FocusPlace::RichEdit
+                                                                                 : FocusPlace::Elsewhere;
+    case Focus::Place::Elsewhere:
+      break;
+  }
+  return FocusPlace::Elsewhere;
+}
+
+void copyAtFocus(Shell& shell) {
+  if (onRichEdit(shell, [](Dialog& page, ControlId edit) { page.copySelection(edit); })) return;
+  const FocusPlace place = focusPlace(shell);
+  if (place == FocusPlace::Tree || place == FocusPlace::ItemList) copyNode(shell);
+}
+
+// A node is pasted once the menu's own command has ended.
+void pasteAtFocus(Shell& shell) {
+  if (onRichEdit(shell, [](Dialog& page, ControlId edit) { page.paste(edit); })) return;
+  const FocusPlace place = focusPlace(shell);
+  if (place == FocusPlace::Tree) shell.program.screen.postCommand(Command::TreePaste);
+  if (place == FocusPlace::ItemList) shell.program.screen.postCommand(Command::ListPaste);
+}
+
+void deleteAtFocus(Shell& shell) {
+  if (onRichEdit(shell, [](Dialog& page, ControlId edit) { page.replaceSelection(edit, ""); })) return;
+  const FocusPlace place = focusPlace(shell);
+  if (place == FocusPlace::Tree) deleteTreeNode(shell);
+  if (place == FocusPlace::ItemList) deleteRows(shell);
+}
+
+void selectAllAtFocus(Shell& shell) {
+  if (onRichEdit(shell, [](Dialog& page, ControlId edit) { page.selectAll(edit); })) return;
+  selectAllRows(shell);
+}
+
+}  // namespace varlo
