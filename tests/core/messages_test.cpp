@@ -14,6 +14,15 @@ TEST(Messages, TitlesAreToTheLetter) {
   EXPECT_EQ(message::kUpgradeTitle, "Project Upgrade");
 }
 
+TEST(Messages, OfTheMainWindow) {
+  EXPECT_EQ(message::kServerMissing,
+            "No Varlo server selected.  Please select an Varlo server address in Preferences.");
+  EXPECT_EQ(message::kServerMissingTitle, "Configuration Error");
+  EXPECT_EQ(message::kResizeError, "Window resizing failed!");
+  EXPECT_EQ(message::kUpgradeError, "Unable to execute Upgrade Wizard 'upgrade.exe'");
+  EXPECT_EQ(message::kUpgradeErrorTitle, "Upgrade Error");
+}
+
 TEST(Messages, TheSaveQuestionHasTwoBlanksBetweenItsSentences) {
   EXPECT_EQ(message::kSavePrompt, "The current project has changed.  Do you wish to save your changes?");
 }

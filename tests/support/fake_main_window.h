@@ -214,10 +214,10 @@ class FakeMainWindow : public MainWindow {
   }
   void pickTab(int tab) { logic_.tabSelected(tab); }
 
-  // What a user sees. Nothing that was never set is enabled.
-  [[nodiscard]] bool entryEnabled(Command command) const { return at(entries_, command); }
-  [[nodiscard]] bool entryChecked(Command command) const { return at(checks_, command); }
-  [[nodiscard]] bool toolEnabled(Command command) const { return at(tools_, command); }
+  // What a user sees. As in a real window, all is enabled and nothing ticked until it is told otherwise.
+  [[nodiscard]] bool entryEnabled(Command command) const { return at(entries_, command, true); }
+  [[nodiscard]] bool entryChecked(Command command) const { return at(checks_, command, false); }
+  [[nodiscard]] bool toolEnabled(Command command) const { return at(tools_, command, true); }
   [[nodiscard]] const std::vector<ToolbarButton>& toolbar() const { return toolbar_; }
   [[nodiscard]] const std::string& title() const { return title_; }
   [[nodiscard]] const std::vector<std::string>& tabs() const { return tabs_; }
@@ -277,9 +277,9 @@ class FakeMainWindow : public MainWindow {
   void end() override { ended_ = true; }
 
  private:
-  [[nodiscard]] static bool at(const std::map<Command, bool>& states, Command command) {
+  [[nodiscard]] static bool at(const std::map<Command, bool>& states, Command command, bool otherwise) {
     const auto found = states.find(command);
-    return found != states.end() && found->second;
+    return found == states.end() ? otherwise : found->second;
   }
 
   // The frame's own buttons send commands, so its logic has nothing to do.

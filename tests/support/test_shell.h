@@ -15,6 +15,11 @@
 
 namespace varlo::test {
 
+inline constexpr const char* kShopPath = "C:\\Varlo\\Projects\\Shop\\Shop.stp";
+inline constexpr const char* kShopText =
+    "VERSION=107001\nNODE0=Home\n#BRANCH\nNODE0=Toys\n#BRANCH\nNODE1=Ball\n#EOB\nNODE2=Bats\nNODE3=Rows\n#EOB\n"
+    "VAR=$OWN|1\nCURR=$\n";
+
 struct TestShell {
   FakeFiles files;
   FixedClock clock{kTestTime};
@@ -32,6 +37,20 @@ struct TestShell {
 
   StoreProject& project() { return program.project; }
   AppConfig& config() { return program.config; }
+
+  // The window stands there as if it had been set up, without all that doing so brings.
+  void attach() { shell.mainWindow = &window; }
+  // A store on the disk: Home(Toys(Ball),Bats,Rows), in which Bats is a shelf and Rows a list.
+  void putShop() {
+    files.put("Projects\\Shop\\Shop.stp", kShopText);
+    files.put("Projects\\Shop\\Template\\order.htm", "order");
+    files.put("Projects\\Shop\\Template\\confirm.htm", "confirm");
+  }
+  // That store is the one that the configuration names.
+  void nameShop() {
+    putShop();
+    project().projectFile.assign(kShopPath);
+  }
 
   // The window opens; what it posts stays in screen.posted.
   void open() { logic.opened(window); }

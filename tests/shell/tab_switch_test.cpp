@@ -1,0 +1,97 @@
+#include "shell/tab_switch.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/control_ids.h"
+#include "shell/main_layout.h"
+#include "shell/pages.h"
+#include "tests/support/test_shell.h"
+#include "tests/support/tree.h"
+
+namespace varlo::test {
+namespace {
+
+class TabSwitch : public testing::Test {
+ protected:
+  TestShell t;
+
+  void SetUp() override {
+    t.attach();
+    t.project().projectFile.assign(kShopPath);
+    t.project().currentNode = t.project().treeNode = AddCategory(t.project(), "Home");
+    openTabPage(t.shell);
+  }
+};
+
+TEST_F(TabSwitch, OpensThePageOfEachTabInThePlaceOfTheOneBefore) {
+  for (const Tab tab : {Tab::Template, Tab::Freight, Tab::OrderForm, Tab::Confirmation, Tab::Layout, Tab::Variables,
+                        Tab::Inventory}) {
+    t.window.pickTab(static_cast<int>(tab));
+    EXPECT_EQ(t.shell.currentTab, tab);
+    EXPECT_EQ(t.window.pageId(), traitsOf(tab).dialogId);
+    EXPECT_EQ(t.shell.tabPage, t.window.page());
+    ASSERT_NE(t.shell.tabPage, nullptr);
+    EXPECT_EQ(t.window.pagePlace(), layOutMainWindow(layoutFactsOf(t.shell)).page);
+  }
+}
+
+TEST_F(TabSwitch, ForgetsWhatBelongedToThePageBefore) {
+  t.shell.focusedField = t.shell.linkedField = control::inventory::kDescription;
+  t.shell.descriptionCache = "old";
+  t.window.pickTab(1);
+  EXPECT_EQ(t.shell.focusedField, 0);
+  EXPECT_EQ(t.shell.linkedField, 0);
+  EXPECT_NE(t.shell.descriptionCache, "old");
+}
+
+TEST_F(TabSwitch, ToTheTabThatIsOpenKeepsThePage) {
+  const FakeWindow* page = t.window.page();
+  t.shell.descriptionCache = "kept";
+  t.window.pickTab(0);
+  EXPECT_EQ(t.window.page(), page);
+  EXPECT_EQ(t.shell.descriptionCache, "kept");
+}
+
+TEST_F(TabSwitch, ANumberWithoutATabIsIgnored) {
+  const FakeWindow* page = t.window.page();
+  t.window.pickTab(7);
+  t.window.pickTab(-1);
+  EXPECT_EQ(t.window.page(), page);
+  EXPECT_EQ(t.shell.currentTab, Tab::Inventory);
+}
+
+TEST_F(TabSwitch, RefreshesTheCommands) {
+  t.project().dirty = 1;
+  t.window.enableEntry(Command::Save, false);
+  t.window.pickTab(2);
+  EXPECT_TRUE(t.window.entryEnabled(Command::Save));
+}
+
+TEST_F(TabSwitch, WhileTypingLosesNothing) {
+  t.window.page()->type(control::inventory::kTitle, "Toys");
+  t.window.page()->type(control::inventory::kDescription, "Roun");
+  t.window.page()->type(control::inventory::kDescription, "Round");
+  t.window.pickTab(1);
+  EXPECT_EQ(t.project().root->title.view(), "Toys");
+  EXPECT_EQ(t.project().root->body.view(), "Round");
+  t.window.pickTab(0);
+  EXPECT_EQ(t.window.page()->text(control::inventory::kTitle), "Toys");
+  EXPECT_EQ(t.window.page()->text(control::inventory::kDescription), "Round");
+}
+
+TEST_F(TabSwitch, AClosedPageIsNoLongerKnown) {
+  closeTabPage(t.shell);
+  EXPECT_EQ(t.shell.tabPage, nullptr);
+  EXPECT_EQ(t.window.page(), nullptr);
+  EXPECT_EQ(t.shell.pageLogic, nullptr);
+}
+
+TEST_F(TabSwitch, WithoutAWindowDoesNothing) {
+  t.shell.mainWindow = nullptr;
+  switchTab(t.shell, Tab::Layout);
+  EXPECT_EQ(t.shell.currentTab, Tab::Inventory);
+  t.shell.mainWindow = &t.window;
+}
+
+}  // namespace
+}  // namespace varlo::test
