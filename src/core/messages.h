@@ -23,6 +23,7 @@ namespace message {
 inline constexpr std::string_view kConfirmation = "Confirmation";
 inline constexpr std::string_view kSavePromptTitle = "Varlo PRO - Save Store Confirmation";
 inline constexpr std::string_view kUpgradeTitle = "Project Upgrade";
+inline constexpr std::string_view kConfigurationError = "Configuration Error";
 
 // Questions.
 inline constexpr std::string_view kSavePrompt = "The current project has changed.  Do you wish to save your changes?";
@@ -82,6 +83,9 @@ inline constexpr std::string_view kBrowserError =
 inline constexpr std::string_view kBrowserErrorTitle = "Browser Error";
 inline constexpr std::string_view kChooseWebDirectory = "Select Web Directory";
 
+inline constexpr std::string_view kServerMissing =
+    "No Varlo server selected.  Please select an Varlo server address in Preferences.";
+
 // Projects of older versions.
 inline constexpr std::string_view kUpgradeShelfOrderConfirm =
     "Your project was saved with an older version of Varlo PRO.\r\n\r\nFor compatibility, Varlo needs to "
@@ -95,9 +99,6 @@ inline constexpr std::string_view kUpgradeOrderConfirm =
     "directory.";
 
 // The main window.
-inline constexpr std::string_view kServerMissing =
-    "No Varlo server selected.  Please select an Varlo server address in Preferences.";
-inline constexpr std::string_view kServerMissingTitle = "Configuration Error";
 inline constexpr std::string_view kResizeError = "Window resizing failed!";
 inline constexpr std::string_view kUpgradeError = "Unable to execute Upgrade Wizard 'upgrade.exe'";
 inline constexpr std::string_view kUpgradeErrorTitle = "Upgrade Error";

@@ -158,21 +158,4 @@ void dispatchCommand(Shell& shell, Command command) {
   if (row != std::end(kCommands)) row->run(shell);
 }
 
-void selectCurrent(Shell& shell, StoreNode* node) {
-  if (node == nullptr) {
-    if (shell.mainWindow != nullptr) shell.mainWindow->controls().enable(control::main::kPreview, false);
-    return;
-  }
-  shell.program.project.currentNode = shell.program.project.treeNode = node;
-  shell.fromList = false;
-  loadItemList(shell, node);
-  loadForm(shell);
-}
-
-bool requireServer(Shell& shell) {
-  if (shell.program.config.orderServer.isSet()) return true;
-  shell.program.screen.messageBox({.text = message::kServerMissing, .title = message::kServerMissingTitle, .icon = Icon::Stop});
-  return false;
-}
-
 }  // namespace varlo

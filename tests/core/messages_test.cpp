@@ -17,7 +17,7 @@ TEST(Messages, TitlesAreToTheLetter) {
 TEST(Messages, OfTheMainWindow) {
   EXPECT_EQ(message::kServerMissing,
             "No Varlo server selected.  Please select an Varlo server address in Preferences.");
-  EXPECT_EQ(message::kServerMissingTitle, "Configuration Error");
+  EXPECT_EQ(message::kConfigurationError, "Configuration Error");
   EXPECT_EQ(message::kResizeError, "Window resizing failed!");
   EXPECT_EQ(message::kUpgradeError, "Unable to execute Upgrade Wizard 'upgrade.exe'");
   EXPECT_EQ(message::kUpgradeErrorTitle, "Upgrade Error");

@@ -205,7 +205,7 @@ TEST_F(Commands, MergeOfAProjectThatIsGoneIsToldAndChangesNothing) {
 
 TEST_F(Commands, ImportFreightTablesTakesThemFromTheOtherProject) {
   openShop();
-  t.files.put(kOtherPath, std::string(kOtherText) + "FNAME=By Camel\n");
+  t.files.put(kOtherPath, std::string(kOtherText) + "FNAME=1,By Camel\n");
   t.screen.files = {kOtherPath};
   run(Command::ImportFreight);
   EXPECT_EQ(fileRequest(), "C:\\Varlo\\Projects|Import from Project|Store Project (*.stp)$*.stp$$|exists");

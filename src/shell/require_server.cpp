@@ -1,0 +1,15 @@
+#include "core/messages.h"
+#include "core/program.h"
+#include "shell/commands.h"
+#include "shell/shell.h"
+
+namespace varlo {
+
+bool requireServer(Shell& shell) {
+  if (shell.program.config.orderServer.isSet()) return true;
+  shell.program.screen.messageBox(
+      {.text = message::kServerMissing, .title = message::kConfigurationError, .icon = Icon::Stop});
+  return false;
+}
+
+}  // namespace varlo
