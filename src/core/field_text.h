@@ -7,10 +7,10 @@
 
 namespace varlo {
 
-// The text of an edit field, cut at the size of the line buffer; never null.
+// The text of an edit field, cut at kFieldText; never null.
 [[nodiscard]] inline Text FieldText(Dialog& dialog, ControlId control) {
   const std::string text = dialog.text(control);
-  return Text(std::string_view(text).substr(0, kLineBuffer));
+  return Text(std::string_view(text).substr(0, kFieldText));
 }
 
 }  // namespace varlo

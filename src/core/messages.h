@@ -86,6 +86,12 @@ inline constexpr std::string_view kChooseWebDirectory = "Select Web Directory";
 inline constexpr std::string_view kServerMissing =
     "No Varlo server selected.  Please select an Varlo server address in Preferences.";
 
+// The images of the inventory form.
+inline constexpr std::string_view kOpenImageTitle = "Open Image File";
+inline constexpr std::string_view kOpenImageLinkTitle = "Open Image Link File";
+inline constexpr std::string_view kImageFilter =
+    "Image Files (*.gif, *.jpg)$*.gif;*.jpg;*.jpeg$All Files (*.*)$*.*$$";
+
 // Projects of older versions.
 inline constexpr std::string_view kUpgradeShelfOrderConfirm =
     "Your project was saved with an older version of Varlo PRO.\r\n\r\nFor compatibility, Varlo needs to "

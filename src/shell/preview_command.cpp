@@ -1,0 +1,42 @@
+#include "shell/preview_command.h"
+
+#include <string>
+
+#include "core/program.h"
+#include "core/store_tree.h"
+#include "generator/first_build_dialog.h"
+#include "generator/preview_page.h"
+#include "persist/template_set.h"
+#include "platform/control_ids.h"
+#include "shell/browser.h"
+#include "shell/commands.h"
+#include "shell/shell.h"
+
+namespace varlo {
+namespace {
+
+// Asks for a directory where there is none yet; false when the user cancelled.
+bool haveDirectory(Shell& shell) {
+  if (shell.program.project.webDir.isSet()) return true;
+  FirstBuildDialog logic(shell.generator);
+  return shell.program.screen.runDialog(dialog::kFirstBuild, logic) == 1;
+}
+
+}  // namespace
+
+// Deliberate: without any scheme the wait cursor stays, and the holder of a shelf's or a list's item stays current.
+void previewCurrent(Shell& shell) {
+  Program& program = shell.program;
+  StoreProject& project = program.project;
+  if (project.currentNode == nullptr || !requireServer(shell) || !haveDirectory(shell)) return;
+  WaitCursorOn(program);
+  StoreNode* node = project.currentNode;
+  project.currentNode = PageOf(*node);
+  if (EnsureProjectScheme(program) == 0) return;
+  const std::string page = PreviewPage(shell.generator);
+  project.currentNode = node;
+  openInBrowser(shell, page);
+  WaitCursorOff(program);
+}
+
+}  // namespace varlo

@@ -1,0 +1,28 @@
+// TabPage: the logic that the pages of all tabs share. By itself it shows the frame of a page.
+#pragma once
+
+#include "platform/dialog.h"
+
+namespace varlo {
+
+struct Shell;
+
+class TabPage : public DialogLogic {
+ public:
+  explicit TabPage(Shell& shell) : shell_(shell) {}
+
+  // The page is the shell's from here to `closed`.
+  void opened(Dialog& page) override;
+  void notified(Dialog& page, const ControlEvent& event) override;
+  // Escape on a page ends the program, as everywhere in its window.
+  void closeRequested(Dialog& page) override;
+  void closed() override;
+
+ protected:
+  // Prepares the controls before the form is loaded for the first time.
+  virtual void prepare(Dialog& /*page*/) {}
+
+  Shell& shell_;
+};
+
+}  // namespace varlo
