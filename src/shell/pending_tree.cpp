@@ -1,3 +1,4 @@
+#include "core/store_node.h"
 #include "shell/item_list.h"
 #include "shell/node_changes.h"
 #include "shell/node_moves.h"
@@ -12,7 +13,11 @@ void insertTreeBranch(Shell&, StoreNode*, TreeItem, TreeItem) {}
 void moveTreeItem(Shell&, StoreNode&) {}
 void removeTreeItem(Shell&, StoreNode&) {}
 void refreshIcon(Shell&, StoreNode&) {}
-void refreshLabel(Shell&, StoreNode&) {}
+void refreshLabel(Shell& shell, StoreNode& node) {
+  if (shell.mainWindow != nullptr && node.treeItem != 0) {
+    shell.mainWindow->tree().setLabel(node.treeItem, node.title.view());
+  }
+}
 void refreshChildrenFlag(Shell&, StoreNode&) {}
 void selectInTree(Shell&, StoreNode&) {}
 void clearTree(Shell&) {}
