@@ -123,6 +123,7 @@ void PageLayout::addCell(const Cell& cell, int left, int right, int height) {
 }
 
 void PageLayout::addDescription() {
+  top_ += scaled(kGroupGap);
   const int left = scaled(kMargin);
   const int width = size_.width - 2 * left;
   put(kDescription + kLabelOffset, {left, top_, width, scaled(kLabelHeight)});

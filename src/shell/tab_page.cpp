@@ -6,9 +6,13 @@
 
 namespace varlo {
 
+// What preparing the controls makes them tell is no doing of the user's: read now, the empty form would empty the
+// node.
 void TabPage::opened(Dialog& page) {
   shell_.tabPage = &page;
+  shell_.formLoading = true;
   prepare(page);
+  shell_.formLoading = false;
   loadForm(shell_);
 }
 

@@ -2,6 +2,7 @@
 
 #include "shell/form.h"
 #include "tests/support/test_form.h"
+#include "tests/support/test_shell.h"
 
 namespace varlo {
 namespace {
@@ -62,13 +63,34 @@ TEST(Pages, EachPassesItsNotificationsToTheForm) {
   }
 }
 
-TEST(Pages, EscapeDoesNotCloseAPageAlone) {
-  TestForm t;
+TEST(Pages, EscapeOnAPageEndsTheProgram) {
   for (int tab = 0; tab < kTabs; ++tab) {
-    t.open(static_cast<Tab>(tab));
-    t.page->close();
-    EXPECT_TRUE(t.page->isOpen()) << tab;
+    TestShell t;
+    t.shell.mainWindow = &t.window;
+    t.shell.currentTab = static_cast<Tab>(tab);
+    const std::unique_ptr<DialogLogic> logic = makePage(t.shell, t.shell.currentTab);
+    t.window.openPage(traitsOf(t.shell.currentTab).dialogId, *logic);
+    t.window.page()->close();
+    EXPECT_TRUE(t.window.ended()) << tab;
+    t.window.closePage();
   }
+}
+
+// Some controls tell of a change when their list is emptied.
+TEST(Pages, WhatTheControlsTellWhileAPageIsPreparedDoesNotEmptyTheNode) {
+  struct TalkingWindow : FakeWindow {
+    explicit TalkingWindow(DialogLogic& theLogic) : FakeWindow(theLogic), logic(theLogic) {}
+    void clearCombo(ControlId control) override { logic.notified(*this, {control, Notice::Changed}); }
+    DialogLogic& logic;
+  };
+  TestForm t;
+  const std::unique_ptr<DialogLogic> logic = makePage(t.shell, Tab::Inventory);
+  TalkingWindow window(*logic);
+  window.open();
+  EXPECT_EQ(t.ball->title.view(), "Ball");
+  EXPECT_EQ(window.text(control::inventory::kTitle), "Ball");
+  EXPECT_EQ(t.project().dirty, 0);
+  logic->closed();
 }
 
 }  // namespace
