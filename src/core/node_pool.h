@@ -26,6 +26,8 @@ class NodePool {
 
   // Nodes handed out since the last reset, the released ones included.
   [[nodiscard]] std::size_t size() const;
+  // Each of these by its number, below size().
+  [[nodiscard]] StoreNode& at(std::size_t number) { return chunks_[number / kChunkNodes][number % kChunkNodes]; }
   // Whether `node` is a record of this pool; for checks, it searches.
   [[nodiscard]] bool holds(const StoreNode* node) const;
 

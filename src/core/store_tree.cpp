@@ -147,6 +147,13 @@ StoreNode* remainingNode(const StoreProject& project, const NodePlace& place, co
   return place.owner != nullptr ? place.owner : project.root;
 }
 
+// Whether `node` is the sibling behind `before`. A node in front of the root keeps its next when that moves away.
+bool hangsBehind(const StoreProject& project, const StoreNode& node, const StoreNode& before) {
+  if (&node == project.root) return node.prev == &before;
+  const NodePlace place = FindNodePlace(project, node);
+  return place.found && place.owner == &before && !place.asChild;
+}
+
 }  // namespace
 
 NodePlace FindNodePlace(const StoreProject& project, const StoreNode& node) {
@@ -191,6 +198,20 @@ int StoreNodeInsert(Program& program, StoreNode* node, StoreNode* target) {
   if (!product && IsProduct(*target)) target = holderOf(program.project, *target);
   if (target == nullptr || IsInBranch(*node, *target)) return 0;
   return IsProduct(*target) ? insertIntoChain(program, *node, *target) : appendChild(program, *node, *target);
+}
+
+int StoreNodeSwapWithNext(StoreProject& project, StoreNode& node) {
+  StoreNode* below = node.next;
+  if (below == nullptr || !hangsBehind(project, *below, node)) return 0;
+  NodePlace place = FindNodePlace(project, node);
+  if (&node == project.root && node.prev != nullptr && node.prev->next == &node) place.owner = node.prev;
+  node.next = below->next;
+  if (node.next != nullptr) node.next->prev = &node;
+  node.prev = below;
+  below->next = &node;
+  below->prev = place.owner;
+  if (place.owner != nullptr) (place.asChild ? place.owner->child : place.owner->next) = below;
+  return 1;
 }
 
 void StoreNodeDelete(Program& program, StoreNode* node) {

@@ -50,6 +50,10 @@ struct NodePlace {
 // node's own branch.
 int StoreNodeInsert(Program& program, StoreNode* node, StoreNode* target);
 
+// Swaps `node` with its next sibling; 0 when there is none. Deliberate: the root stays the node that it is, so the
+// sibling that comes before it is out of the tree until the two are swapped back.
+int StoreNodeSwapWithNext(StoreProject& project, StoreNode& node);
+
 // Unlinks and releases the node; those below it are gone from the tree with it. The parent of a first
 // child, else the previous node, else the next top-level node becomes current.
 void StoreNodeDelete(Program& program, StoreNode* node);

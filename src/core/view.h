@@ -22,7 +22,7 @@ struct View {
   virtual void clearTree() {}
   // Inserts the whole tree from the root.
   virtual void fillTree() {}
-  // Inserts the item of `node` behind that of `behind`, or at the end of its parent's for null.
+  // Inserts the item of a new node. `behind` is its prev, which need not be the node before it.
   virtual void insertTreeItem(StoreNode& /*node*/, StoreNode* /*behind*/) {}
   // Inserts the item of `node`, with its branch, anew at the place where the node is linked now.
   virtual void moveTreeItem(StoreNode& /*node*/) {}

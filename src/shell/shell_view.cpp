@@ -8,17 +8,6 @@
 #include "shell/tree_items.h"
 
 namespace varlo {
-namespace {
-
-// The place of a new item behind that of `behind`: the head when `behind` holds the list or is not shown.
-TreeItem placeBehind(const StoreNode& node, const StoreNode* behind) {
-  if (behind == nullptr) return kLastItem;
-  const bool sibling = behind->next == &node && behind->treeItem != kNoTreeItem;
-  return sibling ? behind->treeItem : behind->child == &node ? kFirstItem : kLastItem;
-}
-
-}  // namespace
-
 void ShellView::loadForm() {
   if (shell_ != nullptr) varlo::loadForm(*shell_);
 }
@@ -34,10 +23,10 @@ void ShellView::clearTree() {
 void ShellView::fillTree() {
   if (shell_ != nullptr) varlo::fillTree(*shell_);
 }
-void ShellView::insertTreeItem(StoreNode& node, StoreNode* behind) {
-  if (shell_ == nullptr) return;
-  const TreeItem parent = node.parent == nullptr ? kNoTreeItem : node.parent->treeItem;
-  varlo::insertTreeItem(*shell_, node, parent, placeBehind(node, behind));
+// A product made while the tree shows another node has a prev that is not the one before it, and a chain that it is
+// put in front of is shown already: so its item goes where the node hangs, with all that hangs below it.
+void ShellView::insertTreeItem(StoreNode& node, StoreNode* /*behind*/) {
+  if (shell_ != nullptr) varlo::moveTreeItem(*shell_, node);
 }
 void ShellView::moveTreeItem(StoreNode& node) {
   if (shell_ != nullptr) varlo::moveTreeItem(*shell_, node);

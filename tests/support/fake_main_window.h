@@ -28,9 +28,11 @@ class FakeTree : public TreeWindow {
   std::map<int, TreeItem> itemsAtY;  // what lies under the mouse, by its height
   Edge edge = Edge::Inside;
   std::vector<std::string> calls;  // that leave no trace in the items
+  int paintedInserts = 0;          // that were painted at once
 
   TreeItem insert(const NewTreeItem& item) override {
     if (refuses) return kNoTreeItem;
+    if (held_ == 0) ++paintedInserts;
     const TreeItem made = ++last_;
     items_[made] = {item.parent, std::string(item.label), item.icon, item.hasChildren, item.data};
     std::vector<TreeItem>& siblings = siblingsBelow(item.parent);
@@ -80,6 +82,7 @@ class FakeTree : public TreeWindow {
 
   // What a user sees.
   [[nodiscard]] const std::map<TreeItem, Item>& items() const { return items_; }
+  [[nodiscard]] const std::vector<TreeItem>& topItems() const { return top_; }
   [[nodiscard]] std::string labelOf(TreeItem item) const {
     const auto found = items_.find(item);
     return found == items_.end() ? "-" : found->second.label;
@@ -139,9 +142,13 @@ class FakeList : public ListWindow {
   std::map<int, int> rowsAtY;  // what lies under the mouse, by its height
   std::vector<ListColumn> columns;
   std::vector<int> repainted;
+  int paintedAppends = 0;  // that were painted at once
 
   void setColumns(std::span<const ListColumn> made) override { columns.assign(made.begin(), made.end()); }
-  void append(ItemData data) override { rows_.push_back({data, false}); }
+  void append(ItemData data) override {
+    if (held_ == 0) ++paintedAppends;
+    rows_.push_back({data, false});
+  }
   void remove(int row) override { rows_.erase(rows_.begin() + row); }
   void removeAll() override { rows_.clear(); }
   [[nodiscard]] int count() const override { return static_cast<int>(rows_.size()); }
