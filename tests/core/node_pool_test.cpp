@@ -16,6 +16,14 @@ TEST(NodePool, AReleasedRecordIsEmptyAndStaysReadable) {
   EXPECT_NE(pool.allocate(), node);
 }
 
+TEST(NodePool, GivesItsRecordsByNumberTheReleasedOnesIncluded) {
+  NodePool pool;
+  std::vector<StoreNode*> nodes;
+  for (int i = 0; i < 600; ++i) nodes.push_back(pool.allocate());
+  pool.release(*nodes[300]);
+  for (std::size_t i = 0; i < nodes.size(); ++i) EXPECT_EQ(&pool.at(i), nodes[i]);
+}
+
 TEST(NodePool, HoldsItsOwnRecordsOnly) {
   NodePool pool;
   EXPECT_EQ(pool.size(), 0U);

@@ -350,6 +350,56 @@ TEST_F(StoreTree, ListFreeDoesNotDescend) {
   EXPECT_FALSE(novel->released);
 }
 
+TEST_F(StoreTree, SwapsANodeWithItsNextSibling) {
+  EXPECT_EQ(StoreNodeSwapWithNext(project, *toys), 1);
+  EXPECT_EQ(TreeText(project), "Home(Books(Novel),Toys(Ball,Car,Kite),Rack(Pen))");
+  EXPECT_EQ(StoreNodeSwapWithNext(project, *toys), 1);
+  EXPECT_EQ(TreeText(project), "Home(Books(Novel),Rack(Pen),Toys(Ball,Car,Kite))");
+  EXPECT_EQ(StoreNodeSwapWithNext(project, *toys), 0);
+  EXPECT_EQ(StoreNodeSwapWithNext(project, *home), 0);
+  ExpectPlainTree(project);
+}
+
+TEST_F(StoreTree, SwapsByTrueNeighboursWhatHasAnOddPrev) {
+  StoreNode* made = AddProduct(project, "Made", toys);
+  made->id = 1;
+  made->prev = toys;
+  AddProduct(project, "Last", toys);
+  EXPECT_EQ(StoreNodeSwapWithNext(project, *kite), 1);
+  EXPECT_EQ(StoreNodeSwapWithNext(project, *kite), 1);
+  EXPECT_EQ(TreeText(project), "Home(Toys(Ball,Car,Made,Last,Kite),Books(Novel),Rack(Pen))");
+  ExpectPlainTree(project);
+}
+
+TEST_F(StoreTree, SwappingTheRootLeavesItTheRootBehindTheOther) {
+  StoreNode* second = AddCategory(project, "Second");
+  AddCategory(project, "Third");
+  EXPECT_EQ(StoreNodeSwapWithNext(project, *home), 1);
+  EXPECT_EQ(project.root, home);
+  EXPECT_EQ(second->next, home);
+  EXPECT_EQ(second->prev, nullptr);
+  EXPECT_EQ(TreeText(project), whole + ",Third");
+  // The root moves on, and the other stays in front.
+  EXPECT_EQ(StoreNodeSwapWithNext(project, *home), 1);
+  EXPECT_EQ(TreeText(project), whole);
+  EXPECT_EQ(second->next->next, home);
+  // Back, one by one.
+  EXPECT_EQ(StoreNodeSwapWithNext(project, *second->next), 1);
+  EXPECT_EQ(StoreNodeSwapWithNext(project, *second), 1);
+  EXPECT_EQ(TreeText(project), whole + ",Second,Third");
+  ExpectPlainTree(project);
+}
+
+TEST_F(StoreTree, ANodeInFrontOfTheRootDoesNotSwapWithWhatIsGoneFromBehindIt) {
+  StoreNode* second = AddCategory(project, "Second");
+  StoreNode* third = AddCategory(project, "Third");
+  StoreNodeSwapWithNext(project, *home);
+  StoreNodeDelete(t.program, home);
+  EXPECT_EQ(project.root, third);
+  EXPECT_EQ(StoreNodeSwapWithNext(project, *second), 0);
+  ExpectPlainTree(project);
+}
+
 TEST_F(StoreTree, TheWalkSkipsChainsUnlessAsked) {
   insert(fresh(NodeKind::Product, "Chained"), ball);
   int nodes = 0;
