@@ -53,7 +53,7 @@ struct TreeWindow {
   [[nodiscard]] virtual TreeItem selected() const = 0;
   virtual void ensureVisible(TreeItem item) = 0;
   virtual void collapse(TreeItem item) = 0;
-  // Between the two nothing is painted, which makes filling fast.
+  // Between the two nothing is painted, which makes filling fast. Holds nest.
   virtual void holdPainting(bool on) = 0;
 
   // While something is dragged. Points are on the screen.

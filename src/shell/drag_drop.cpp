@@ -52,6 +52,7 @@ void dropRows(Shell& shell, StoreNode& target) {
   StoreProject& project = shell.program.project;
   {
     const Raised frozen(shell.listFrozen);
+    const HeldPainting held(shell.mainWindow->tree());
     StoreNode* next = nullptr;
     for (StoreNode* node = project.dragList; node != nullptr; node = next) {
       next = node->next;

@@ -60,7 +60,8 @@ bool hasSelectedRow(const Shell& shell) {
 void deleteSelectedRows(Shell& shell) {
   const Raised frozen(shell.listFrozen);
   ListWindow& list = shell.mainWindow->list();
-  const HeldPainting held(list);
+  const HeldPainting heldList(list);
+  const HeldPainting heldTree(shell.mainWindow->tree());
   shell.dragRow = kNoRow;
   for (int row = 0; row < list.count();) {
     if (!list.isSelected(row)) {
