@@ -30,7 +30,7 @@ struct ControlEvent {
   Notice notice = Notice::Clicked;
 };
 
-// A column of a list: heading, and width in pixels.
+// A column of a list: heading, and width in pixels of an ordinary screen.
 struct ListColumn {
   std::string_view heading;
   int width = 0;

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "win32/dialog_host.h"
 #include "win32/task_dialog.h"
 
 namespace varlo {
@@ -48,6 +49,14 @@ Answer answerOf(int button) {
 
 }  // namespace
 
+// The window that the user works in: a box that belonged to another one would leave this one usable behind it.
+HWND Win32Screen::boxOwner() const {
+  if (taskDialog_ != nullptr) return taskDialog_;
+  const HWND active = ::GetActiveWindow();
+  if (active != nullptr) return active;
+  return owner_ == nullptr ? nullptr : ::GetLastActivePopup(owner_);
+}
+
 Answer Win32Screen::messageBox(const MessageBoxRequest& request) {
   return answerOf(::MessageBoxA(boxOwner(), std::string(request.text).c_str(), std::string(request.title).c_str(),
                                 buttonsOf(request.buttons) | iconOf(request.icon)));
@@ -72,11 +81,12 @@ void Win32Screen::setWaitCursor(bool on) {
   ::SetCursor(::LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(on ? IDC_WAIT : IDC_ARROW)));
 }
 
-int Win32Screen::runDialog(int /*dialogId*/, DialogLogic& /*logic*/) { return 0; }
+int Win32Screen::runDialog(int dialogId, DialogLogic& logic) { return RunModalDialog(boxOwner(), dialogId, logic); }
 
-Dialog* Win32Screen::openDialog(int /*dialogId*/, DialogLogic& /*logic*/) { return nullptr; }
-
-Command Win32Screen::popupMenu(const PopupMenu& /*menu*/) { return Command::None; }
+// A modeless dialog belongs to the main window, whatever is active: it may outlive the rest.
+Dialog* Win32Screen::openDialog(int dialogId, DialogLogic& logic) {
+  return OpenModelessDialog(owner_, dialogId, logic);
+}
 
 void Win32Screen::postCommand(Command command) {
   ::PostMessageA(owner_, kPostedCommandMessage, static_cast<WPARAM>(command), 0);

@@ -1,5 +1,5 @@
-// The person at the screen, on Windows: message boxes, the small dialog around a long task, the wait
-// cursor, and commands posted to the main window.
+// The person at the screen, on Windows: message boxes, choosers, dialogs, popup menus, the small dialog around a
+// long task, the wait cursor, and commands posted to the main window.
 #pragma once
 
 #include <windows.h>
@@ -30,7 +30,7 @@ class Win32Screen : public Screen {
   void postCommand(Command command) override;
 
  private:
-  [[nodiscard]] HWND boxOwner() const { return taskDialog_ == nullptr ? owner_ : taskDialog_; }
+  [[nodiscard]] HWND boxOwner() const;
 
   HWND owner_;
   HWND taskDialog_ = nullptr;

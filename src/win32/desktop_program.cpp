@@ -1,0 +1,30 @@
+#include "win32/desktop_program.h"
+
+#include "core/start_up.h"
+#include "persist/file_steps.h"
+#include "win32/main_window.h"
+
+namespace varlo {
+
+DesktopProgram::DesktopProgram(Machine& machine)
+    : program_(*machine.files, *machine.clock, screen_, *machine.clipboard, view_),
+      shell_(program_, *machine.browsers) {
+  view_.setShell(&shell_);
+  StartUp(program_, FileStartUpSteps());
+}
+
+DesktopProgram::~DesktopProgram() { view_.setShell(nullptr); }
+
+bool DesktopProgram::run() {
+  const bool shown = RunMainWindow(logic_, [this](HWND window) { screen_.setOwner(window); });
+  screen_.setOwner(nullptr);
+  return shown;
+}
+
+int RunDesktop(const std::string& folder) {
+  Machine machine = MakeMachine(folder);
+  DesktopProgram desktop(machine);
+  return desktop.run() ? 0 : 1;
+}
+
+}  // namespace varlo

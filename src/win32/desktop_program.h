@@ -1,0 +1,40 @@
+// DesktopProgram: the program with its main window, on a machine.
+#pragma once
+
+#include <windows.h>
+
+#include "core/program.h"
+#include "platform/machine.h"
+#include "shell/main_window_shell.h"
+#include "shell/shell.h"
+#include "shell/shell_view.h"
+#include "win32/win32_screen.h"
+
+namespace varlo {
+
+class DesktopProgram {
+ public:
+  // Reads the installation in the working folder. Windows belong to the thread that makes the program.
+  explicit DesktopProgram(Machine& machine);
+  ~DesktopProgram();
+  DesktopProgram(const DesktopProgram&) = delete;
+  DesktopProgram& operator=(const DesktopProgram&) = delete;
+
+  // Shows the main window until it is closed; false when it can't be shown.
+  bool run();
+
+  [[nodiscard]] Program& program() { return program_; }
+  [[nodiscard]] Shell& shell() { return shell_; }
+
+ private:
+  Win32Screen screen_;
+  ShellView view_;
+  Program program_;
+  Shell shell_;
+  MainWindowShell logic_{shell_};
+};
+
+// The program as a person starts it: in the installation `folder`. Gives the exit code of the process.
+int RunDesktop(const std::string& folder);
+
+}  // namespace varlo

@@ -1,0 +1,49 @@
+// ListControl: the item list in a list view. Rows hold no text and no icon; the list view asks for them when it
+// paints.
+#pragma once
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "platform/main_window.h"
+#include "win32/drag_image.h"
+
+namespace varlo {
+
+class ListControl : public ListWindow {
+ public:
+  ListControl(HWND list, HIMAGELIST icons, MainWindowLogic& logic, const DragImage& dragImage);
+
+  [[nodiscard]] HWND window() const { return list_; }
+  // A notification of the list view.
+  void notified(NMHDR& header);
+  // The picture of a row, and where the mouse holds it; null when it can't be made.
+  HIMAGELIST dragPicture(int row, Point mouse, POINT& grabbed) const;
+
+  void setColumns(std::span<const ListColumn> columns) override;
+  void append(ItemData data) override;
+  void remove(int row) override;
+  void removeAll() override;
+  [[nodiscard]] int count() const override;
+  [[nodiscard]] ItemData data(int row) const override;
+  [[nodiscard]] bool isSelected(int row) const override;
+  void setSelected(int row, bool on) override;
+  void sort(const std::function<int(ItemData, ItemData)>& compare) override;
+  void repaint(int row) override;
+  void repaintAll() override;
+  void holdPainting(bool on) override;
+  [[nodiscard]] int rowAt(Point point) const override;
+
+ private:
+  LRESULT send(UINT message, WPARAM wParam, const void* data = nullptr) const;
+  void fill(LVITEMA& item);
+
+  HWND list_;
+  MainWindowLogic& logic_;
+  const DragImage& dragImage_;
+  int columns_ = 0;
+  int holds_ = 0;
+};
+
+}  // namespace varlo

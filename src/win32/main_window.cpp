@@ -1,0 +1,45 @@
+#include "win32/main_window.h"
+
+#include <memory>
+
+#include "platform/control_ids.h"
+#include "win32/dialog_host.h"
+#include "win32/win32_main_window.h"
+
+namespace varlo {
+namespace {
+
+// One run of the window.
+struct Run {
+  MainWindowLogic& logic;
+  const std::function<void(HWND)>& created;
+  std::unique_ptr<Win32MainWindow> window;
+};
+
+INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_INITDIALOG) {
+    Run& run = *reinterpret_cast<Run*>(lParam);
+    run.created(window);
+    run.window = std::make_unique<Win32MainWindow>(window, run.logic);
+    ::SetWindowLongPtrA(window, DWLP_USER, reinterpret_cast<LONG_PTR>(run.window.get()));
+    run.window->open();
+    return TRUE;
+  }
+  auto* self = reinterpret_cast<Win32MainWindow*>(::GetWindowLongPtrA(window, DWLP_USER));
+  if (self == nullptr) return FALSE;
+  if (message == WM_NCDESTROY) ::SetWindowLongPtrA(window, DWLP_USER, 0);
+  return self->handle(message, wParam, lParam);
+}
+
+}  // namespace
+
+bool RunMainWindow(MainWindowLogic& logic, const std::function<void(HWND)>& created) {
+  LoadControlClasses();
+  Run run{.logic = logic, .created = created, .window = nullptr};
+  const INT_PTR result =
+      ::DialogBoxParamA(::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(dialog::kMain), nullptr, procedure,
+                        reinterpret_cast<LPARAM>(&run));
+  return result == 1;
+}
+
+}  // namespace varlo

@@ -1,0 +1,80 @@
+// Win32Dialog: what the logic of a dialog can ask of its window, as messages to the window's controls. Without a
+// window, as after its end, everything does nothing.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+
+#include "platform/dialog.h"
+
+namespace varlo {
+
+// Posted to a dialog for Dialog::post; the control stands in wParam.
+inline constexpr UINT kPostedNoticeMessage = WM_APP + 2;
+
+class Win32Dialog : public Dialog {
+ public:
+  // How the window ends, with a result.
+  using Ending = std::function<void(int)>;
+
+  void attach(HWND window, Ending ending);
+  void detach() { window_ = nullptr; }
+  [[nodiscard]] HWND window() const { return window_; }
+  // Whether the logic chose where the focus is.
+  [[nodiscard]] bool focusWasSet() const { return focusWasSet_; }
+
+  std::string text(ControlId control) override;
+  void setText(ControlId control, std::string_view text) override;
+  void limitText(ControlId control, int size) override;
+  void enable(ControlId control, bool on) override;
+  bool isChecked(ControlId control) override;
+  void check(ControlId control, bool on) override;
+  void focus(ControlId control) override;
+  void caretToEnd(ControlId control) override;
+  void repaint(ControlId control) override;
+
+  bool hasSelection(ControlId control) override;
+  void copySelection(ControlId control) override;
+  void paste(ControlId control) override;
+  void replaceSelection(ControlId control, std::string_view text) override;
+  void selectAll(ControlId control) override;
+
+  void clearCombo(ControlId control) override;
+  void addComboRow(ControlId control, std::string_view text) override;
+
+  void clearListBox(ControlId control) override;
+  void addListBoxRow(ControlId control, std::string_view text) override;
+  void showListBoxRow(ControlId control, int row) override;
+
+  void setProgressTop(ControlId control, int top) override;
+  void stepProgress(ControlId control) override;
+  void setProgress(ControlId control, int position) override;
+
+  void setColumns(ControlId control, std::span<const ListColumn> columns) override;
+  void setRowCount(ControlId control, int count) override;
+  int selectedRow(ControlId control) override;
+  void selectRow(ControlId control, int row) override;
+
+  void place(std::span<const Placement> placements) override;
+  [[nodiscard]] Size clientSize() const override;
+  [[nodiscard]] int scaled(int pixels) const override;
+
+  void post(ControlId control) override;
+  void bringToFront() override;
+  void end(int result) override;
+
+ private:
+  [[nodiscard]] HWND item(ControlId control) const { return ::GetDlgItem(window_, control); }
+  LRESULT send(ControlId control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+  void leave(HWND control) const;
+
+  HWND window_ = nullptr;
+  Ending ending_;
+  bool focusWasSet_ = false;
+};
+
+// Inserts the columns of a list. Widths are pixels of an ordinary screen.
+void InsertListColumns(HWND list, std::span<const ListColumn> columns);
+
+}  // namespace varlo

@@ -1,0 +1,354 @@
+#include "win32/dialog_host.h"
+
+#include <commctrl.h>
+#include <richedit.h>
+
+#include <array>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/control_ids.h"
+#include "tests/win32/recording_logic.h"
+#include "tests/win32/window_support.h"
+
+namespace varlo::test {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+
+// A plain window that a page lives in; it keeps the commands that it gets.
+class PageParent {
+ public:
+  PageParent() {
+    window_ = ::CreateWindowExA(0, "Static", "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 800, 600, nullptr, nullptr,
+                                nullptr, nullptr);
+    ::SetWindowSubclass(window_, keep, 1, reinterpret_cast<DWORD_PTR>(this));
+  }
+  ~PageParent() { ::DestroyWindow(window_); }
+  [[nodiscard]] HWND get() const { return window_; }
+  std::vector<WPARAM> commands;
+
+ private:
+  static LRESULT CALLBACK keep(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR self) {
+    if (message == WM_COMMAND) reinterpret_cast<PageParent*>(self)->commands.push_back(wParam);
+    return ::DefSubclassProc(window, message, wParam, lParam);
+  }
+  HWND window_;
+};
+
+class OpenDialog : public testing::Test {
+ protected:
+  RecordingLogic logic;
+
+  void open(int dialogId) {
+    ASSERT_NE(OpenModelessDialog(nullptr, dialogId, logic), nullptr);
+    pump(logic.handle());
+    logic.told.clear();
+  }
+  void TearDown() override {
+    if (logic.window != nullptr) ::DestroyWindow(logic.handle());
+  }
+  Dialog& dialog() { return *logic.window; }
+};
+
+TEST(ModalDialog, EndsWithTheResultOfItsLogicAndTellsItLastThatTheWindowIsGone) {
+  RecordingLogic logic;
+  logic.whenOpened = [](Dialog& dialog) { dialog.end(7); };
+  EXPECT_EQ(RunModalDialog(nullptr, dialog::kSaveAs, logic), 7);
+  EXPECT_EQ(logic.told.front(), "opened");
+  EXPECT_EQ(logic.told.back(), "closed");
+}
+
+TEST(ModalDialog, ThatDoesNotExistGivesZeroAndTellsNothing) {
+  RecordingLogic logic;
+  EXPECT_EQ(RunModalDialog(nullptr, 4711, logic), 0);
+  EXPECT_TRUE(logic.told.empty());
+}
+
+TEST(ModalDialog, RunsItsPostedNoticeAfterTheCallThatPostedIt) {
+  RecordingLogic logic;
+  logic.whenOpened = [&](Dialog& dialog) {
+    dialog.post(12);
+    logic.told.emplace_back("still opening");
+  };
+  logic.whenNotified = [](Dialog& dialog, const ControlEvent& event) {
+    if (event.notice == Notice::Posted) dialog.end(event.control);
+  };
+  EXPECT_EQ(RunModalDialog(nullptr, dialog::kSaveAs, logic), 12);
+  EXPECT_EQ(logic.count("still opening"), 1);
+}
+
+TEST_F(OpenDialog, ThatDoesNotExistIsNull) { EXPECT_EQ(OpenModelessDialog(nullptr, 4711, logic), nullptr); }
+
+TEST_F(OpenDialog, TellsItsSizeOnceAfterItIsOpened) {
+  ASSERT_NE(OpenModelessDialog(nullptr, dialog::kSaveAs, logic), nullptr);
+  ASSERT_GE(logic.told.size(), 2U);
+  EXPECT_EQ(logic.told[0], "opened");
+  EXPECT_EQ(logic.told[1], "resized");
+}
+
+TEST_F(OpenDialog, LogicThatEndsItWhileItOpensGetsNoMoreCalls) {
+  logic.whenOpened = [](Dialog& dialog) { dialog.end(0); };
+  EXPECT_EQ(OpenModelessDialog(nullptr, dialog::kSaveAs, logic), nullptr);
+  EXPECT_THAT(logic.told, ElementsAre("opened", "closed"));
+}
+
+TEST_F(OpenDialog, LogicMayUseItsDialogAfterEndingIt) {
+  open(dialog::kSaveAs);
+  std::string text = "something";
+  logic.whenNotified = [&](Dialog& ended, const ControlEvent& event) {
+    if (event.notice != Notice::Clicked) return;
+    ended.end(1);
+    text = ended.text(control::save_as::kName);
+    ended.setText(control::save_as::kName, "x");
+    ended.enable(control::kOk, false);
+    ended.bringToFront();
+    ended.end(1);
+  };
+  ::SendMessageA(logic.item(control::kOk), BM_CLICK, 0, 0);
+  EXPECT_EQ(text, "");
+  EXPECT_EQ(logic.window, nullptr);
+  EXPECT_EQ(logic.told.back(), "closed");
+}
+
+TEST_F(OpenDialog, KeepsTextsAndTellsOfEachChange) {
+  open(dialog::kSaveAs);
+  dialog().setText(control::save_as::kName, "Caf\xe9");
+  EXPECT_EQ(dialog().text(control::save_as::kName), "Caf\xe9");
+  EXPECT_EQ(logic.count("Changed 1101"), 1);
+}
+
+TEST_F(OpenDialog, LimitsWhatIsTyped) {
+  open(dialog::kSaveAs);
+  dialog().limitText(control::save_as::kName, 3);
+  for (const char letter : {'a', 'b', 'c', 'd'}) {
+    ::SendMessageA(logic.item(control::save_as::kName), WM_CHAR, static_cast<WPARAM>(letter), 1);
+  }
+  EXPECT_EQ(dialog().text(control::save_as::kName), "abc");
+}
+
+TEST_F(OpenDialog, PutsTheCaretBehindTheText) {
+  open(dialog::kSaveAs);
+  dialog().setText(control::save_as::kName, "12.5");
+  dialog().caretToEnd(control::save_as::kName);
+  EXPECT_EQ(::SendMessageA(logic.item(control::save_as::kName), EM_GETSEL, 0, 0), MAKELONG(4, 4));
+}
+
+TEST_F(OpenDialog, TellsWhereTheFocusGoes) {
+  open(dialog::kPreferences);
+  dialog().focus(control::preferences::kProxy);
+  EXPECT_EQ(::GetFocus(), logic.item(control::preferences::kProxy));
+  dialog().focus(control::preferences::kServer);
+  EXPECT_EQ(logic.count("GotFocus 1002"), 1);
+  EXPECT_EQ(logic.count("LostFocus 1002"), 1);
+  EXPECT_EQ(logic.count("GotFocus 1004"), 1);
+}
+
+TEST_F(OpenDialog, FocusThatTheLogicChoseWhileOpeningStays) {
+  logic.whenOpened = [](Dialog& opened) { opened.focus(control::kOk); };
+  open(dialog::kPreferences);
+  EXPECT_EQ(::GetFocus(), logic.item(control::kOk));
+}
+
+TEST_F(OpenDialog, DisablingTheFocusedControlMovesTheFocusOn) {
+  open(dialog::kPreferences);
+  dialog().focus(control::preferences::kPort);
+  dialog().enable(control::preferences::kPort, false);
+  EXPECT_NE(::GetFocus(), logic.item(control::preferences::kPort));
+  EXPECT_NE(::IsChild(logic.handle(), ::GetFocus()), FALSE);
+}
+
+TEST_F(OpenDialog, ChecksABox) {
+  open(dialog::kPreferences);
+  EXPECT_FALSE(dialog().isChecked(control::preferences::kDirectoryLink));
+  dialog().check(control::preferences::kDirectoryLink, true);
+  EXPECT_TRUE(dialog().isChecked(control::preferences::kDirectoryLink));
+  ::SendMessageA(logic.item(control::preferences::kDirectoryLink), BM_CLICK, 0, 0);
+  EXPECT_FALSE(dialog().isChecked(control::preferences::kDirectoryLink));
+  EXPECT_EQ(logic.count("Clicked 1007"), 1);
+}
+
+TEST_F(OpenDialog, ComboBoxKeepsTheTextAboveWhenItsRowsGo) {
+  open(dialog::kPreferences);
+  dialog().addComboRow(control::preferences::kBrowser, "one.exe");
+  dialog().addComboRow(control::preferences::kBrowser, "two.exe");
+  dialog().setText(control::preferences::kBrowser, "one.exe");
+  dialog().clearCombo(control::preferences::kBrowser);
+  EXPECT_EQ(::SendMessageA(logic.item(control::preferences::kBrowser), CB_GETCOUNT, 0, 0), 0);
+  EXPECT_EQ(dialog().text(control::preferences::kBrowser), "one.exe");
+}
+
+TEST_F(OpenDialog, ComboBoxTellsOfARowThatIsChosenAndOfATextThatIsTyped) {
+  open(dialog::kPreferences);
+  dialog().addComboRow(control::preferences::kBrowser, "one.exe");
+  const HWND combo = logic.item(control::preferences::kBrowser);
+  dialog().focus(control::preferences::kBrowser);
+  logic.told.clear();
+  ::SendMessageA(combo, WM_KEYDOWN, VK_DOWN, 1);
+  EXPECT_EQ(logic.count("RowSelected 1001"), 1);
+  EXPECT_EQ(dialog().text(control::preferences::kBrowser), "one.exe");
+  ::SendMessageA(::GetWindow(combo, GW_CHILD), WM_CHAR, 'x', 1);
+  EXPECT_GE(logic.count("Changed 1001"), 1);
+}
+
+TEST_F(OpenDialog, ListBoxShowsItsRowsAndScrollsSidewaysToTheLongest) {
+  open(dialog::kStoreBuild);
+  const HWND list = logic.item(control::store_build::kLog);
+  dialog().addListBoxRow(control::store_build::kLog, "short");
+  dialog().addListBoxRow(control::store_build::kLog, std::string(200, 'W'));
+  dialog().showListBoxRow(control::store_build::kLog, 1);
+  EXPECT_EQ(::SendMessageA(list, LB_GETCOUNT, 0, 0), 2);
+  EXPECT_EQ(::SendMessageA(list, LB_GETCARETINDEX, 0, 0), 1);
+  EXPECT_GT(::SendMessageA(list, LB_GETHORIZONTALEXTENT, 0, 0), 1000);
+  dialog().clearListBox(control::store_build::kLog);
+  EXPECT_EQ(::SendMessageA(list, LB_GETCOUNT, 0, 0), 0);
+  EXPECT_EQ(::SendMessageA(list, LB_GETHORIZONTALEXTENT, 0, 0), 0);
+}
+
+TEST_F(OpenDialog, ProgressGoesFromZeroToItsTopBySteps) {
+  open(dialog::kStoreBuild);
+  const HWND bar = logic.item(control::store_build::kProgress);
+  dialog().setProgressTop(control::store_build::kProgress, 100000);
+  EXPECT_EQ(::SendMessageA(bar, PBM_GETRANGE, FALSE, 0), 100000);
+  dialog().stepProgress(control::store_build::kProgress);
+  dialog().stepProgress(control::store_build::kProgress);
+  EXPECT_EQ(::SendMessageA(bar, PBM_GETPOS, 0, 0), 2);
+  dialog().setProgress(control::store_build::kProgress, 0);
+  EXPECT_EQ(::SendMessageA(bar, PBM_GETPOS, 0, 0), 0);
+}
+
+TEST_F(OpenDialog, ListInColumnsAsksForItsCellsAndTellsTheSelectedRow) {
+  open(dialog::kRestore);
+  const std::array columns{ListColumn{"Date", 140}, ListColumn{"Size", 70}};
+  dialog().setColumns(control::restore::kList, columns);
+  dialog().setRowCount(control::restore::kList, 3);
+  EXPECT_EQ(dialog().selectedRow(control::restore::kList), kNoRow);
+  dialog().selectRow(control::restore::kList, 2);
+  EXPECT_EQ(dialog().selectedRow(control::restore::kList), 2);
+  EXPECT_GE(logic.count("RowSelected 1201"), 1);
+  std::array<char, 40> text{};
+  LVITEMA cell{};
+  cell.iSubItem = 1;
+  cell.pszText = text.data();
+  cell.cchTextMax = static_cast<int>(text.size());
+  ::SendMessageA(logic.item(control::restore::kList), LVM_GETITEMTEXTA, 2, reinterpret_cast<LPARAM>(&cell));
+  EXPECT_STREQ(text.data(), "cell 2,1");
+  dialog().selectRow(control::restore::kList, kNoRow);
+  EXPECT_EQ(dialog().selectedRow(control::restore::kList), kNoRow);
+}
+
+TEST_F(OpenDialog, PlacesShowsAndHidesControls) {
+  open(dialog::kPreferences);
+  const HWND field = logic.item(control::preferences::kProxy);
+  const std::array placements{Placement{control::preferences::kProxy, {10, 20, 300, 24}, true},
+                              Placement{control::preferences::kPort, {0, 0, 0, 0}, false}};
+  dialog().place(placements);
+  RECT place{};
+  ::GetWindowRect(field, &place);
+  POINT corner{place.left, place.top};
+  ::ScreenToClient(logic.handle(), &corner);
+  EXPECT_EQ(corner.x, 10);
+  EXPECT_EQ(corner.y, 20);
+  EXPECT_EQ(place.right - place.left, 300);
+  EXPECT_EQ(place.bottom - place.top, 24);
+  EXPECT_EQ(::IsWindowVisible(logic.item(control::preferences::kPort)), FALSE);
+}
+
+TEST_F(OpenDialog, TabReturnAndEscapeWorkInTheLoopOfAnotherDialog) {
+  open(dialog::kPreferences);
+  dialog().focus(control::preferences::kProxy);
+  const HWND other = ::CreateDialogParamA(::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(dialog::kSaveAs), nullptr,
+                                          [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0);
+  press(other, logic.item(control::preferences::kProxy), VK_TAB);
+  EXPECT_EQ(::GetFocus(), logic.item(control::preferences::kPort));
+  press(other, logic.item(control::preferences::kPort), VK_RETURN);
+  EXPECT_EQ(logic.count("Clicked 1"), 1);
+  press(other, logic.item(control::preferences::kPort), VK_ESCAPE);
+  EXPECT_EQ(logic.count("Clicked 2"), 1);
+  ::DestroyWindow(other);
+}
+
+TEST_F(OpenDialog, EscapeAndTheCloseBoxAskTheLogicWhereCancelIsDisabled) {
+  open(dialog::kSaveAs);
+  dialog().enable(control::kCancel, false);
+  ::SendMessageA(logic.handle(), WM_COMMAND, IDCANCEL, 0);
+  EXPECT_THAT(logic.told, Contains("closeRequested"));
+  EXPECT_EQ(logic.count("Clicked 2"), 0);
+}
+
+TEST_F(OpenDialog, ReturnDoesNothingWhereOkIsDisabled) {
+  open(dialog::kSaveAs);
+  dialog().enable(control::kOk, false);
+  ::SendMessageA(logic.handle(), WM_COMMAND, IDOK, 0);
+  EXPECT_EQ(logic.count("Clicked 1"), 0);
+}
+
+TEST_F(OpenDialog, CloseBoxAsksTheLogic) {
+  open(dialog::kStoreBuild);
+  ::SendMessageA(logic.handle(), WM_CLOSE, 0, 0);
+  EXPECT_THAT(logic.told, ElementsAre("closeRequested", "closed"));
+}
+
+class Page : public testing::Test {
+ protected:
+  PageParent parent;
+  RecordingLogic logic;
+  static constexpr ControlId kText = control::inventory::kDescription;
+
+  void SetUp() override {
+    ASSERT_NE(OpenPageDialog(parent.get(), dialog::kInventoryPage, logic), nullptr);
+    ::ShowWindow(logic.handle(), SW_SHOW);
+    logic.told.clear();
+  }
+  Dialog& dialog() { return *logic.window; }
+};
+
+TEST_F(Page, LeavesTheFocusWhereItIs) {
+  EXPECT_EQ(::IsChild(parent.get(), ::GetFocus()), FALSE);
+}
+
+TEST_F(Page, EscapeInItGoesToItsParent) {
+  ::SendMessageA(logic.handle(), WM_COMMAND, IDCANCEL, 0);
+  pump(parent.get());
+  EXPECT_THAT(parent.commands, ElementsAre(static_cast<WPARAM>(IDCANCEL)));
+  EXPECT_TRUE(logic.told.empty());
+}
+
+TEST_F(Page, RichEditTellsOfChangesFocusAndSelection) {
+  dialog().setText(kText, "one two");
+  EXPECT_EQ(logic.count("Changed 2026"), 1);
+  dialog().focus(kText);
+  EXPECT_EQ(logic.count("GotFocus 2026"), 1);
+  EXPECT_FALSE(dialog().hasSelection(kText));
+  dialog().selectAll(kText);
+  EXPECT_TRUE(dialog().hasSelection(kText));
+  dialog().replaceSelection(kText, "three");
+  EXPECT_EQ(dialog().text(kText).substr(0, 5), "three");
+}
+
+TEST_F(Page, EmptyRichEditHasNoSelectionEvenWhenAllIsSelected) {
+  dialog().setText(kText, "");
+  dialog().selectAll(kText);
+  EXPECT_FALSE(dialog().hasSelection(kText));
+}
+
+TEST_F(Page, RichEditCopiesAndPastes) {
+  dialog().setText(kText, "abc");
+  ::SendMessageA(logic.item(kText), EM_SETSEL, 0, 2);
+  dialog().copySelection(kText);
+  dialog().setText(kText, "");
+  dialog().paste(kText);
+  EXPECT_EQ(dialog().text(kText), "ab");
+}
+
+TEST_F(Page, TabCharacterDoesNotEnterTheRichEdit) {
+  dialog().setText(kText, "");
+  ::SendMessageA(logic.item(kText), WM_CHAR, VK_TAB, 1);
+  ::SendMessageA(logic.item(kText), WM_CHAR, 'x', 1);
+  EXPECT_EQ(dialog().text(kText), "x");
+}
+
+}  // namespace
+}  // namespace varlo::test
