@@ -190,11 +190,10 @@ Edge TreeControl::edgeAt(Point point) const {
 
 // Clearing the highlight does not everywhere repaint the item that had it.
 void TreeControl::setDropHighlight(TreeItem item) {
-  const HTREEITEM handle = handleOf(item);
-  if (handleIn(send(TVM_GETNEXTITEM, TVGN_DROPHILITE, nullptr)) == handle) return;
+  if (item == std::exchange(dropHighlight_, item)) return;
   const DragImage::Hidden hidden(dragImage_);
   const OwnChange own(*this);
-  send(TVM_SELECTITEM, TVGN_DROPHILITE, handle);
+  send(TVM_SELECTITEM, TVGN_DROPHILITE, handleOf(item));
   ::InvalidateRect(tree_, nullptr, FALSE);
   ::UpdateWindow(tree_);
 }

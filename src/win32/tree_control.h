@@ -64,6 +64,7 @@ class TreeControl : public TreeWindow {
   const DragImage& dragImage_;
   std::unordered_map<TreeItem, Entry> entries_;
   TreeItem last_ = kNoTreeItem;
+  TreeItem dropHighlight_ = kNoTreeItem;
   int ownChanges_ = 0;
   int holds_ = 0;
   bool keyConsumed_ = false;
