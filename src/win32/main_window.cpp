@@ -36,9 +36,8 @@ INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
 bool RunMainWindow(MainWindowLogic& logic, const std::function<void(HWND)>& created) {
   LoadControlClasses();
   Run run{.logic = logic, .created = created, .window = nullptr};
-  const INT_PTR result =
-      ::DialogBoxParamA(::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(dialog::kMain), nullptr, procedure,
-                        reinterpret_cast<LPARAM>(&run));
+  const INT_PTR result = ::DialogBoxParamA(::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(dialog::kMain), nullptr,
+                                           procedure, reinterpret_cast<LPARAM>(&run));
   return result == 1;
 }
 

@@ -43,15 +43,15 @@ LRESULT CALLBACK freeImages(HWND toolbar, UINT message, WPARAM wParam, LPARAM lP
 }  // namespace
 
 HIMAGELIST LoadItemImages() {
-  return loadImages(
-      ChooseScaledResource(RESOURCE_ITEM_IMAGES, RESOURCE_ITEM_IMAGES_150, RESOURCE_ITEM_IMAGES_200));
+  return loadImages(ChooseScaledResource(RESOURCE_ITEM_IMAGES, RESOURCE_ITEM_IMAGES_150, RESOURCE_ITEM_IMAGES_200));
 }
 
 HWND CreateToolbarWindow(HWND parent, std::span<const ToolbarButton> buttons) {
-  constexpr DWORD kStyle = WS_CHILD | TBSTYLE_TOOLTIPS | TBSTYLE_FLAT | CCS_NORESIZE | CCS_NOPARENTALIGN | CCS_NODIVIDER;
-  const HWND toolbar =
-      ::CreateWindowExA(0, TOOLBARCLASSNAMEA, "Toolbar", kStyle, 0, 0, 0, 0, parent,
-                        reinterpret_cast<HMENU>(INT_PTR{control::main::kToolbar}), ::GetModuleHandleA(nullptr), nullptr);
+  constexpr DWORD kStyle =
+      WS_CHILD | TBSTYLE_TOOLTIPS | TBSTYLE_FLAT | CCS_NORESIZE | CCS_NOPARENTALIGN | CCS_NODIVIDER;
+  const HWND toolbar = ::CreateWindowExA(0, TOOLBARCLASSNAMEA, "Toolbar", kStyle, 0, 0, 0, 0, parent,
+                                         reinterpret_cast<HMENU>(INT_PTR{control::main::kToolbar}),
+                                         ::GetModuleHandleA(nullptr), nullptr);
   if (toolbar == nullptr) return nullptr;
   ::SendMessageA(toolbar, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);
   const HIMAGELIST images = loadImages(

@@ -188,12 +188,17 @@ Edge TreeControl::edgeAt(Point point) const {
   return point.y >= window.bottom ? Edge::Below : Edge::Inside;
 }
 
-// Clearing the highlight does not everywhere repaint the item that had it.
+// Wine keeps the highlight, and its picture, when it is given to no item; so it is taken from the old one by hand.
 void TreeControl::setDropHighlight(TreeItem item) {
-  if (item == std::exchange(dropHighlight_, item)) return;
+  const TreeItem old = std::exchange(dropHighlight_, item);
+  if (item == old) return;
   const DragImage::Hidden hidden(dragImage_);
   const OwnChange own(*this);
   send(TVM_SELECTITEM, TVGN_DROPHILITE, handleOf(item));
+  TVITEMA plain{};
+  plain.mask = TVIF_STATE;
+  plain.stateMask = TVIS_DROPHILITED;
+  change(old, plain);
   ::InvalidateRect(tree_, nullptr, FALSE);
   ::UpdateWindow(tree_);
 }

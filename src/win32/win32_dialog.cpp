@@ -113,7 +113,8 @@ void Win32Dialog::caretToEnd(ControlId control) {
 
 void Win32Dialog::repaint(ControlId control) {
   const HWND target = item(control);
-  if (target != nullptr) ::RedrawWindow(target, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW);
+  if (target != nullptr)
+    ::RedrawWindow(target, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW);
 }
 
 // The rich edit counts a line end behind its text, which can be selected but is not there.
@@ -225,7 +226,8 @@ void Win32Dialog::place(std::span<const Placement> placements) {
     const int height = heightOf(target, std::max(place.height, 0));
     const UINT flags = SWP_NOZORDER | SWP_NOACTIVATE | (placement.shown ? SWP_SHOWWINDOW : SWP_HIDEWINDOW);
     if (moves != nullptr) {
-      moves = ::DeferWindowPos(moves, target, nullptr, place.left, place.top, std::max(place.width, 0), height, flags);
+      moves =
+          ::DeferWindowPos(moves, target, nullptr, place.left, place.top, std::max(place.width, 0), height, flags);
     }
   }
   if (moves != nullptr) ::EndDeferWindowPos(moves);

@@ -32,7 +32,8 @@ constexpr std::array<std::pair<ControlId, Command>, 6> kButtons{{{control::main:
                                                                  {control::main::kBuild, Command::BuildStore}}};
 
 Command commandOf(int id) {
-  const auto found = std::find_if(kButtons.begin(), kButtons.end(), [id](const auto& each) { return each.first == id; });
+  const auto found =
+      std::find_if(kButtons.begin(), kButtons.end(), [id](const auto& each) { return each.first == id; });
   return found == kButtons.end() ? static_cast<Command>(id) : found->second;
 }
 
@@ -46,7 +47,8 @@ Point inScreen(HWND window, LPARAM place) {
 
 HICON loadIconOf(int width, int height) {
   return static_cast<HICON>(::LoadImageA(::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(RESOURCE_PROGRAM_ICON),
-                                         IMAGE_ICON, ::GetSystemMetrics(width), ::GetSystemMetrics(height), LR_SHARED));
+                                         IMAGE_ICON, ::GetSystemMetrics(width), ::GetSystemMetrics(height),
+                                         LR_SHARED));
 }
 
 HACCEL acceleratorsFor(HWND window, HWND focus, HWND tree, HWND list) {
@@ -197,7 +199,8 @@ void Win32MainWindow::menuOpens(HMENU menu) {
   if (menu == ::GetMenu(window_)) logic_.focusMoved();
 }
 
-// The key for the popup menu, which comes without a place: the menu opens at what is selected, so the mouse goes there.
+// The key for the popup menu, which comes without a place: the menu opens at what is selected, so the mouse goes
+// there.
 bool Win32MainWindow::contextMenu(HWND window, LPARAM place) {
   constexpr LPARAM kFromKey = -1;
   RECT shown{};

@@ -15,12 +15,13 @@ std::string WindowText(HWND window) {
 }
 
 ControlKind KindOf(HWND control) {
-  static constexpr std::array<std::pair<const char*, ControlKind>, 6> kClasses{{{"Edit", ControlKind::Edit},
-                                                                                {"RICHEDIT", ControlKind::RichEdit},
-                                                                                {"ComboBox", ControlKind::ComboBox},
-                                                                                {"ListBox", ControlKind::ListBox},
-                                                                                {"Button", ControlKind::Button},
-                                                                                {WC_LISTVIEWA, ControlKind::Columns}}};
+  static constexpr std::array<std::pair<const char*, ControlKind>, 6> kClasses{
+      {{"Edit", ControlKind::Edit},
+       {"RICHEDIT", ControlKind::RichEdit},
+       {"ComboBox", ControlKind::ComboBox},
+       {"ListBox", ControlKind::ListBox},
+       {"Button", ControlKind::Button},
+       {WC_LISTVIEWA, ControlKind::Columns}}};
   std::array<char, 64> name{};
   ::GetClassNameA(control, name.data(), static_cast<int>(name.size()));
   for (const auto& [className, kind] : kClasses) {

@@ -259,8 +259,9 @@ TEST_F(OpenDialog, PlacesShowsAndHidesControls) {
 TEST_F(OpenDialog, TabReturnAndEscapeWorkInTheLoopOfAnotherDialog) {
   open(dialog::kPreferences);
   dialog().focus(control::preferences::kProxy);
-  const HWND other = ::CreateDialogParamA(::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(dialog::kSaveAs), nullptr,
-                                          [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0);
+  const HWND other = ::CreateDialogParamA(
+      ::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(dialog::kSaveAs), nullptr,
+      [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0);
   press(other, logic.item(control::preferences::kProxy), VK_TAB);
   EXPECT_EQ(::GetFocus(), logic.item(control::preferences::kPort));
   press(other, logic.item(control::preferences::kPort), VK_RETURN);
@@ -306,9 +307,7 @@ class Page : public testing::Test {
   Dialog& dialog() { return *logic.window; }
 };
 
-TEST_F(Page, LeavesTheFocusWhereItIs) {
-  EXPECT_EQ(::IsChild(parent.get(), ::GetFocus()), FALSE);
-}
+TEST_F(Page, LeavesTheFocusWhereItIs) { EXPECT_EQ(::IsChild(parent.get(), ::GetFocus()), FALSE); }
 
 TEST_F(Page, EscapeInItGoesToItsParent) {
   ::SendMessageA(logic.handle(), WM_COMMAND, IDCANCEL, 0);

@@ -31,8 +31,8 @@ class RecordingLogic : public DialogLogic {
     if (whenOpened) whenOpened(dialog);
   }
   void notified(Dialog& dialog, const ControlEvent& event) override {
-    static constexpr const char* kNames[] = {"Changed",  "GotFocus", "LostFocus", "Clicked",
-                                             "DoubleClicked", "RowSelected", "Posted", "Other"};
+    static constexpr const char* kNames[] = {"Changed",       "GotFocus",    "LostFocus", "Clicked",
+                                             "DoubleClicked", "RowSelected", "Posted",    "Other"};
     told.push_back(std::string(kNames[static_cast<int>(event.notice)]) + " " + std::to_string(event.control));
     if (whenNotified) whenNotified(dialog, event);
   }

@@ -30,9 +30,11 @@ class BareDialog {
  public:
   explicit BareDialog(int dialogId) {
     LoadControlClasses();
-    parent_ = ::CreateWindowExA(0, "Static", "", WS_OVERLAPPEDWINDOW, 0, 0, 900, 700, nullptr, nullptr, nullptr, nullptr);
-    window_ = ::CreateDialogParamA(::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(static_cast<WORD>(dialogId)), parent_,
-                                   [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0);
+    parent_ =
+        ::CreateWindowExA(0, "Static", "", WS_OVERLAPPEDWINDOW, 0, 0, 900, 700, nullptr, nullptr, nullptr, nullptr);
+    window_ = ::CreateDialogParamA(
+        ::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(static_cast<WORD>(dialogId)), parent_,
+        [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0);
   }
   ~BareDialog() {
     ::DestroyWindow(window_);
@@ -49,9 +51,9 @@ class BareDialog {
   HWND window_ = nullptr;
 };
 
-constexpr std::array kDialogs{dialog::kMain,         dialog::kPreferences,  dialog::kSaveAs,
-                              dialog::kRestore,      dialog::kStoreBuild,   dialog::kFirstBuild,
-                              dialog::kInventoryPage, dialog::kTemplatePage, dialog::kFreightPage,
+constexpr std::array kDialogs{dialog::kMain,          dialog::kPreferences,      dialog::kSaveAs,
+                              dialog::kRestore,       dialog::kStoreBuild,       dialog::kFirstBuild,
+                              dialog::kInventoryPage, dialog::kTemplatePage,     dialog::kFreightPage,
                               dialog::kOrderFormPage, dialog::kConfirmationPage, dialog::kLayoutPage,
                               dialog::kVariablesPage};
 
@@ -80,7 +82,8 @@ TEST(Resources, EveryDialogCanBeMade) {
 TEST(Resources, EveryNumberOfAControlIsInItsDialog) {
   const std::map<int, std::vector<ControlId>> controls{
       {dialog::kMain, {901, 902, 903, 904, 911, 912, 913, 914, 915, 916}},
-      {dialog::kPreferences, {1001, 1002, 1003, 1004, 1005, 1006, 1007, control::kOk, control::kCancel, control::kHelp}},
+      {dialog::kPreferences,
+       {1001, 1002, 1003, 1004, 1005, 1006, 1007, control::kOk, control::kCancel, control::kHelp}},
       {dialog::kSaveAs, {1101, 1102, control::kOk, control::kCancel}},
       {dialog::kRestore, {1201, control::kOk, control::kCancel, control::kHelp}},
       {dialog::kStoreBuild, {1301, 1302, 1303, 1304, 1305, 1306, control::kOk, control::kCancel, control::kHelp}},
@@ -226,9 +229,10 @@ TEST(Resources, CaptionsAndFixedTextsAreTheSystemsOwn) {
   EXPECT_EQ(WindowText(BareDialog(dialog::kFirstBuild).get()), "Build");
   const BareDialog build(dialog::kStoreBuild);
   EXPECT_EQ(WindowText(build.get()), "Store Build");
-  EXPECT_EQ(WindowText(::GetWindow(build.get(), GW_CHILD)),
-            "You are about to re-build the entire store.  Please specify a target directory where the store should be "
-            "built and the store title.");
+  EXPECT_EQ(
+      WindowText(::GetWindow(build.get(), GW_CHILD)),
+      "You are about to re-build the entire store.  Please specify a target directory where the store should be "
+      "built and the store title.");
   EXPECT_EQ(WindowText(build.item(control::store_build::kBuild)), "&Build");
 }
 
@@ -262,7 +266,9 @@ TEST(Resources, MenuHasEveryEntryInItsOrder) {
         {Command::Find, "&Find"},
         {Command::SelectAll, "Select &All"}}},
       {"&View",
-       {{Command::ViewOrders, "&Orders"}, {Command::ToggleToolbar, "&Toolbar"}, {Command::ToggleButtons, "&Buttons"}}},
+       {{Command::ViewOrders, "&Orders"},
+        {Command::ToggleToolbar, "&Toolbar"},
+        {Command::ToggleButtons, "&Buttons"}}},
       {"&Options",
        {{Command::Preferences, "&Preferences"},
         {Command::PreviewPage, "Pre&view Page"},
@@ -272,7 +278,10 @@ TEST(Resources, MenuHasEveryEntryInItsOrder) {
         {Command::TaxOptions, "Tax Options"},
         {Command::ImportFreight, "&Import Freight Tables"}}},
       {"&Help",
-       {{Command::About, "&About..."}, {Command::Help, "&Help"}, {Command::Faq, "&FAQ"}, {Command::Manual, "&Manual"}}}};
+       {{Command::About, "&About..."},
+        {Command::Help, "&Help"},
+        {Command::Faq, "&FAQ"},
+        {Command::Manual, "&Manual"}}}};
   const HMENU bar = ::LoadMenuA(::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(RESOURCE_MAIN_MENU));
   ASSERT_EQ(::GetMenuItemCount(bar), static_cast<int>(menus.size()));
   for (int place = 0; place < static_cast<int>(menus.size()); ++place) {

@@ -168,7 +168,8 @@ TEST_F(TreeControlTest, FindsTheItemUnderThePointAndTheEdges) {
   add("a");
   const TreeItem b = add("b");
   ::UpdateWindow(treeHandle());
-  const Point middle = middleOf(handleOf(ask(TVM_GETNEXTITEM, TVGN_NEXT, handleOf(ask(TVM_GETNEXTITEM, TVGN_ROOT, nullptr)))));
+  const Point middle =
+      middleOf(handleOf(ask(TVM_GETNEXTITEM, TVGN_NEXT, handleOf(ask(TVM_GETNEXTITEM, TVGN_ROOT, nullptr)))));
   EXPECT_EQ(tree().itemAt(middle), b);
   EXPECT_EQ(tree().edgeAt(middle), Edge::Inside);
   RECT place{};
