@@ -7,10 +7,10 @@
 
 namespace varlo {
 
-// The text of an edit field, cut at kFieldText; never null.
-[[nodiscard]] inline Text FieldText(Dialog& dialog, ControlId control) {
+// The text of an edit field, cut at the size of the line buffer or at `cut`; never null.
+[[nodiscard]] inline Text FieldText(Dialog& dialog, ControlId control, std::size_t cut = kLineBuffer) {
   const std::string text = dialog.text(control);
-  return Text(std::string_view(text).substr(0, kFieldText));
+  return Text(std::string_view(text).substr(0, cut));
 }
 
 }  // namespace varlo

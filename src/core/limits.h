@@ -6,11 +6,11 @@
 
 namespace varlo {
 
-// Room of the line buffer: what is asked of LineRead everywhere, and the longest text that goes into
-// EscapeLines.
+// Room of the line buffer: what is asked of LineRead everywhere, and the longest text that is fetched
+// from an edit field or goes into EscapeLines.
 inline constexpr std::size_t kLineBuffer = 20000;
 
-// The text of an edit field is cut here when it is read, with no message: one byte of the line buffer ends it.
+// The text of a field of a page is cut here when it is read, with no message: one byte of the buffer ends it.
 inline constexpr std::size_t kFieldText = kLineBuffer - 1;
 
 // Lines come in blocks of this size, so a line is cut at the greatest multiple that fits the buffer.

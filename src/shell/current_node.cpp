@@ -4,6 +4,7 @@
 #include "shell/form.h"
 #include "shell/item_list.h"
 #include "shell/shell.h"
+#include "shell/tree_items.h"
 
 namespace varlo {
 
@@ -15,6 +16,7 @@ void selectCurrent(Shell& shell, StoreNode* node) {
   StoreProject& project = shell.program.project;
   project.currentNode = project.treeNode = node;
   shell.fromList = false;
+  followTreeNode(shell);
   loadItemList(shell, node);
   loadForm(shell);
 }

@@ -52,7 +52,7 @@ void fillInventory(Shell& shell) {
 }
 
 Text readField(Dialog& page, const FormField& field) {
-  Text text = FieldText(page, field.control);
+  Text text = FieldText(page, field.control, kFieldText);
   if (field.backSlashes == BackSlashes::Turned)
     std::replace(text.data(), text.data() + text.view().size(), '\\', '/');
   if (!text.isSet() && field.empty == EmptyField::NoText) text.release();
@@ -115,7 +115,7 @@ bool formDiffers(const StoreNode* node, const StoreNode* scratch) {
 }
 
 void digitsOnly(Dialog& page, ControlId control) {
-  std::string text(FieldText(page, control).view());
+  std::string text(FieldText(page, control, kFieldText).view());
   if (std::erase_if(text, [](char c) { return !IsDigit(c) && c != '.'; }) == 0) return;
   page.setText(control, text);
   page.caretToEnd(control);

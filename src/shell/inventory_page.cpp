@@ -98,7 +98,7 @@ void InventoryPage::templateTouched(Dialog& page) {
 void InventoryPage::templateChosen(Dialog& page) {
   StoreNode* node = shell_.program.project.currentNode;
   if (node == nullptr || !node->templateName.isSet()) return;
-  const Text chosen = FieldText(page, kTemplate);
+  const Text chosen = FieldText(page, kTemplate, kFieldText);
   if (EqualsNoCase(chosen.view(), node->templateName.view())) return;
   SetDirty(shell_.program, 1);
   node->templateName = chosen;

@@ -1,5 +1,6 @@
 #include "shell/item_list.h"
 
+#include <algorithm>
 #include <array>
 
 #include "core/store_node.h"

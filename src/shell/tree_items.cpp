@@ -1,5 +1,6 @@
 #include "shell/tree_items.h"
 
+#include <array>
 #include <vector>
 
 #include "core/program.h"

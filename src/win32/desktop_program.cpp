@@ -1,7 +1,7 @@
 #include "win32/desktop_program.h"
 
 #include "core/start_up.h"
-#include "persist/file_steps.h"
+#include "shell/start_steps.h"
 #include "win32/main_window.h"
 
 namespace varlo {
@@ -10,7 +10,7 @@ DesktopProgram::DesktopProgram(Machine& machine)
     : program_(*machine.files, *machine.clock, screen_, *machine.clipboard, view_),
       shell_(program_, *machine.browsers) {
   view_.setShell(&shell_);
-  StartUp(program_, FileStartUpSteps());
+  StartUp(program_, startSteps(*machine.browsers));
 }
 
 DesktopProgram::~DesktopProgram() { view_.setShell(nullptr); }
@@ -21,8 +21,7 @@ bool DesktopProgram::run() {
   return shown;
 }
 
-int RunDesktop(const std::string& folder) {
-  Machine machine = MakeMachine(folder);
+int RunDesktop(Machine& machine) {
   DesktopProgram desktop(machine);
   return desktop.run() ? 0 : 1;
 }

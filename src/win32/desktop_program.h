@@ -34,7 +34,8 @@ class DesktopProgram {
   MainWindowShell logic_{shell_};
 };
 
-// The program as a person starts it: in the installation `folder`. Gives the exit code of the process.
-int RunDesktop(const std::string& folder);
+// The program as a person starts it, in the installation that is the working folder. Gives the exit code of the
+// process.
+int RunDesktop(Machine& machine);
 
 }  // namespace varlo

@@ -19,5 +19,6 @@ std::string folderOfProgram() {
 }  // namespace
 
 int WINAPI WinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, LPSTR /*arguments*/, int /*show*/) {
-  return varlo::RunDesktop(folderOfProgram());
+  varlo::Machine machine = varlo::MakeMachine(folderOfProgram());
+  return varlo::RunDesktop(machine);
 }
