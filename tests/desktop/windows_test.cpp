@@ -41,14 +41,23 @@ std::pair<std::string, char> partsOf(const std::string& text) {
   return {std::string(text).erase(mark, 1), static_cast<char>(std::toupper(text[mark + 1]))};
 }
 
-SIZE extentOf(HWND control, const std::string& text) {
+// What a text needs in the width of its control; on buttons it stays in one line.
+SIZE extentOf(HWND control, const std::string& text, int width, bool wraps) {
   const HDC canvas = ::GetDC(control);
   const HGDIOBJ before = ::SelectObject(canvas, reinterpret_cast<HGDIOBJ>(::SendMessageA(control, WM_GETFONT, 0, 0)));
-  SIZE extent{};
-  ::GetTextExtentPoint32A(canvas, text.c_str(), static_cast<int>(text.size()), &extent);
+  RECT needed{0, 0, width, 0};
+  const UINT format = DT_CALCRECT | DT_NOPREFIX | (wraps ? DT_WORDBREAK : DT_SINGLELINE);
+  ::DrawTextA(canvas, text.c_str(), -1, &needed, format);
   ::SelectObject(canvas, before);
   ::ReleaseDC(control, canvas);
-  return extent;
+  return {needed.right, needed.bottom};
+}
+
+// A static text, or the title of a group.
+bool isLabel(HWND control) {
+  if (control == nullptr || TextOf(control).empty()) return false;
+  const bool group = (::GetWindowLongA(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+  return classOf(control) == "Static" || (classOf(control) == "Button" && group);
 }
 
 // What is wrong with a dialog, in words.
@@ -70,12 +79,14 @@ std::vector<std::string> faultsOf(HWND dialog) {
       faults.push_back(name + " leaves its window");
     }
     if (kind == "Static" || kind == "Button") {
-      if (extentOf(control, text).cx > place.right - place.left) faults.push_back(name + " is cut off");
+      const SIZE room{place.right - place.left, place.bottom - place.top};
+      const SIZE needed = extentOf(control, text, room.cx, kind == "Static");
+      if (needed.cx > room.cx || needed.cy > room.cy) faults.push_back(name + " is cut off");
       if (mnemonic != '\0' && !mnemonics.insert(mnemonic).second) faults.push_back(name + " shares its mnemonic");
     }
     const bool isField =
         kind == "Edit" || kind == "ComboBox" || kind == "RICHEDIT" || kind == "ListBox" || kind == "SysListView32";
-    if (isField && (before == nullptr || classOf(before) != "Static" || TextOf(before).empty())) {
+    if (isField && !isLabel(before)) {
       faults.push_back(name + " has no label before it");
     }
     const auto style = ::GetWindowLongA(control, GWL_STYLE);
