@@ -32,6 +32,8 @@ class DialogHost {
   INT_PTR dispatch(UINT message, WPARAM wParam, LPARAM lParam);
   void command(ControlId control, int code, HWND from);
   void pressed(ControlId button);
+  // Not while a box or dialog of its own waits for an answer: what opened that is still at work.
+  [[nodiscard]] bool isFree() const { return ::IsWindowEnabled(dialog_.window()) != FALSE; }
   INT_PTR notify(NMHDR& header);
   void fillCell(NMLVDISPINFOA& info);
   void closed();
@@ -90,7 +92,7 @@ INT_PTR DialogHost::dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
       if (wParam != SIZE_MINIMIZED) logic_.resized(dialog_);
       return FALSE;
     case WM_CLOSE:
-      logic_.closeRequested(dialog_);
+      if (isFree()) logic_.closeRequested(dialog_);
       return TRUE;
     case kPostedNoticeMessage:
       logic_.notified(dialog_, {static_cast<ControlId>(wParam), Notice::Posted});
@@ -117,6 +119,7 @@ void DialogHost::pressed(ControlId button) {
     ::PostMessageA(::GetParent(dialog_.window()), WM_COMMAND, static_cast<WPARAM>(button), 0);
     return;
   }
+  if (!isFree()) return;
   const HWND pressedButton = ::GetDlgItem(dialog_.window(), button);
   if (pressedButton != nullptr && ::IsWindowEnabled(pressedButton) != FALSE) {
     logic_.notified(dialog_, {button, Notice::Clicked});

@@ -263,7 +263,12 @@ TEST_F(Win32MainWindowTest, KeyForThePopupMenuOpensItForWhatIsSelected) {
   window->tree().select(window->tree().insert({.label = "a"}));
   ::SendMessageA(handle, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(treeHandle()), -1);
   EXPECT_EQ(logic.count("treeRightClicked"), 1);
-  ::SendMessageA(handle, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(treeHandle()), MAKELPARAM(10, 10));
+  // A right click has a place, and was told by the tree already. (On the caption it would open the window's own
+  // menu.)
+  RECT place{};
+  ::GetWindowRect(treeHandle(), &place);
+  ::SendMessageA(handle, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(treeHandle()),
+                 MAKELPARAM(place.left + 5, place.top + 5));
   EXPECT_EQ(logic.count("treeRightClicked"), 1);
 }
 
