@@ -29,9 +29,16 @@ NodePlace findInTree(const StoreProject& project, const StoreNode& node) {
   return {};
 }
 
+// The root goes: what it was moved behind by key must not lead to it any more.
+void forgetRootInFront(const StoreProject& project) {
+  const StoreNode* root = project.root;
+  if (root != nullptr && root->prev != nullptr && root->prev->next == root) root->prev->next = nullptr;
+}
+
 // Lets `place` point at `node` instead of what hung there, which may be null.
 void linkAt(StoreProject& project, const NodePlace& place, StoreNode* node) {
   if (place.owner == nullptr) {
+    forgetRootInFront(project);
     project.root = node;
     if (node != nullptr) node->parent = nullptr;
   } else {
@@ -40,11 +47,16 @@ void linkAt(StoreProject& project, const NodePlace& place, StoreNode* node) {
   if (node != nullptr) node->prev = place.owner;
 }
 
-// Takes `node` out of its list; its branch stays below it.
+// Takes `node` out of its list; its branch stays below it. Without a place it may stand in front of a root that was
+// moved down by key.
 void unlink(StoreProject& project, const NodePlace& place, StoreNode& node) {
-  if (!place.found) return;
-  linkAt(project, place, node.next);
+  StoreNode* next = node.next;
   node.next = nullptr;
+  if (place.found) {
+    linkAt(project, place, next);
+  } else if (next != nullptr && next->prev == &node) {
+    next->prev = nullptr;
+  }
 }
 
 // Takes a product out of its chain or list; the chain below it takes its place.
@@ -82,7 +94,6 @@ int appendChild(Program& program, StoreNode& node, StoreNode& target) {
   if (place.found && place.owner == nullptr && node.next == nullptr) return 0;
   StoreNode* oldParent = LiveParent(node);
   unlink(program.project, place, node);
-  node.next = nullptr;
   node.parent = &target;
   node.prev = last == nullptr ? &target : last;
   (last == nullptr ? target.child : last->next) = &node;

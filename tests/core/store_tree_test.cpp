@@ -400,6 +400,33 @@ TEST_F(StoreTree, ANodeInFrontOfTheRootDoesNotSwapWithWhatIsGoneFromBehindIt) {
   ExpectPlainTree(project);
 }
 
+TEST_F(StoreTree, DeletingANodeInFrontOfTheRootLeavesTheTreeWhole) {
+  StoreNode* second = AddCategory(project, "Second");
+  StoreNodeSwapWithNext(project, *home);
+  project.currentNode = project.treeNode = second;
+  remove(second);
+  EXPECT_TRUE(second->released);
+  EXPECT_EQ(project.root, home);
+  EXPECT_EQ(project.currentNode, home);
+  expectUnchanged();
+}
+
+TEST_F(StoreTree, MovingANodeInFrontOfTheRootPutsTheRootFirst) {
+  StoreNode* second = AddCategory(project, "Second");
+  StoreNodeSwapWithNext(project, *home);
+  EXPECT_EQ(insert(second, home), 1);
+  EXPECT_EQ(TreeText(project), "Home(Toys(Ball,Car,Kite),Books(Novel),Rack(Pen),Second)");
+  ExpectPlainTree(project);
+}
+
+TEST_F(StoreTree, NothingInFrontOfTheRootLeadsToItOnceItIsDeleted) {
+  StoreNode* second = AddCategory(project, "Second");
+  StoreNodeSwapWithNext(project, *home);
+  remove(home);
+  EXPECT_EQ(second->next, nullptr);
+  EXPECT_EQ(project.root, nullptr);
+}
+
 TEST_F(StoreTree, TheWalkSkipsChainsUnlessAsked) {
   insert(fresh(NodeKind::Product, "Chained"), ball);
   int nodes = 0;
