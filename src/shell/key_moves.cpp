@@ -14,7 +14,10 @@ void reinsertBehind(Shell& shell, StoreNode& node, const StoreNode& sibling) {
   if (node.treeItem == kNoTreeItem) return;
   removeTreeItem(shell, node);
   const std::optional<TreeItem> parent = parentItemOf(shell, node);
-  if (parent.has_value()) insertTreeItem(shell, node, *parent, sibling.treeItem);
+  if (!parent.has_value()) return;
+  // The sibling need not be shown itself, after an earlier move of the branch.
+  const TreeItem behind = sibling.treeItem == kNoTreeItem ? itemBefore(shell, node, *parent) : sibling.treeItem;
+  insertTreeItem(shell, node, *parent, behind);
 }
 
 void moveDown(Shell& shell) {

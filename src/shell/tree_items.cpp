@@ -72,15 +72,6 @@ std::optional<StoreNode*> holderOf(const StoreProject& project, const StoreNode&
   return inFront ? std::optional<StoreNode*>(nullptr) : std::nullopt;
 }
 
-// The item of the nearest sibling before `node` that is shown.
-TreeItem itemBefore(const StoreNode* head, const StoreNode& node) {
-  TreeItem before = kFirstItem;
-  for (const StoreNode* sibling = head; sibling != nullptr && sibling != &node; sibling = sibling->next) {
-    if (sibling->treeItem != kNoTreeItem) before = sibling->treeItem;
-  }
-  return before;
-}
-
 }  // namespace
 
 StoreNode* nodeOfItem(const Shell& shell, TreeItem item) {
@@ -99,6 +90,16 @@ std::optional<TreeItem> parentItemOf(const Shell& shell, const StoreNode& node) 
   if (*holder == nullptr) return kNoTreeItem;
   const TreeItem item = (*holder)->treeItem;
   return item == kNoTreeItem ? std::nullopt : std::optional(item);
+}
+
+TreeItem itemBefore(const Shell& shell, const StoreNode& node, TreeItem parent) {
+  const StoreNode* holder = nodeOfItem(shell, parent);
+  const StoreNode* sibling = holder == nullptr ? shell.program.project.root : holder->child;
+  TreeItem before = kFirstItem;
+  for (; sibling != nullptr && sibling != &node; sibling = sibling->next) {
+    if (sibling->treeItem != kNoTreeItem) before = sibling->treeItem;
+  }
+  return before;
 }
 
 void insertTreeItem(Shell& shell, StoreNode& node, TreeItem parent, TreeItem behind) {
@@ -144,10 +145,9 @@ void moveTreeItem(Shell& shell, StoreNode& node) {
   removeBranch(shell, node);
   const std::optional<TreeItem> parent = parentItemOf(shell, node);
   if (!parent.has_value()) return;
-  StoreNode* holder = nodeOfItem(shell, *parent);
-  const StoreNode* head = holder == nullptr ? shell.program.project.root : holder->child;
-  insertTreeItem(shell, node, *parent, itemBefore(head, node));
+  insertTreeItem(shell, node, *parent, itemBefore(shell, node, *parent));
   if (node.treeItem != kNoTreeItem) insertTreeBranch(shell, node.child, node.treeItem, kLastItem);
+  StoreNode* holder = nodeOfItem(shell, *parent);
   if (holder != nullptr) refreshChildrenFlag(shell, *holder);
 }
 

@@ -19,6 +19,10 @@ struct StoreNode;
 // The item below which that of `node` belongs, kNoTreeItem at the top level; nothing when that is not shown.
 [[nodiscard]] std::optional<TreeItem> parentItemOf(const Shell& shell, const StoreNode& node);
 
+// The item behind which that of `node` belongs below `parent`: of the nearest sibling before it that is shown, else
+// kFirstItem.
+[[nodiscard]] TreeItem itemBefore(const Shell& shell, const StoreNode& node, TreeItem parent);
+
 // Inserts one item and keeps it in the node. A control that refuses it is told to the user.
 void insertTreeItem(Shell& shell, StoreNode& node, TreeItem parent, TreeItem behind);
 

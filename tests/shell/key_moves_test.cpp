@@ -182,6 +182,15 @@ TEST(KeyMoves, MoveANodeThatTheTreeDoesNotShow) {
   EXPECT_EQ(t.text(), "Home(A,B(Ball),C)");
 }
 
+TEST(KeyMoves, ASiblingKeepsItsPlaceBesideANodeThatTheTreeDoesNotShow) {
+  SmallStore t;
+  removeTreeItem(t.shell, *t.b);
+  Select(t.project(), t.b);
+  t.press(Key::KeypadMinus);
+  EXPECT_EQ(t.text(), "Home(B(Ball),A,C)");
+  EXPECT_EQ(t.tree().shown(), "Home(A C)");
+}
+
 TEST(KeyMoves, WithoutANodeDoNothing) {
   SmallStore t;
   t.project().treeNode = nullptr;
