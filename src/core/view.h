@@ -37,7 +37,8 @@ struct View {
   virtual void loadCardList() {}
   virtual void loadSchemeLists() {}
 
-  // Shows the context help of a control or dialog in the help pane, if it is open.
+  // Shows the context help of a control, command or dialog in the help pane, if it is open; 0 stands for the open
+  // tab. Refreshes the states of the commands first, in any case.
   virtual void showHelp(int /*id*/) {}
   // Opens the help pane above the dialog with this number, on its topic.
   virtual void openHelpPane(int /*dialogId*/) {}

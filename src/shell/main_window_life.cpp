@@ -39,6 +39,7 @@ void showRest(Shell& shell) {
   shell.program.screen.postCommand(Command::RefillTree);
   shell.program.screen.postCommand(Command::ResizeMainWindow);
   loadForm(shell);
+  shell.program.view.showHelp(kHelpOfTab);
   shell.mainWindow->createToolbar(toolbarButtons());
   refreshCommandStates(shell);
 }

@@ -21,7 +21,11 @@ void MainWindowShell::resized() { resizeMainWindow(shell_); }
 void MainWindowShell::moved() {}
 void MainWindowShell::closeRequested() { dispatchCommand(shell_, Command::Quit); }
 void MainWindowShell::closing() { closeMainWindow(shell_); }
-std::string_view MainWindowShell::toolTip(Command command) { return toolTipOf(command); }
+// A tool tip goes with the help of its command.
+std::string_view MainWindowShell::toolTip(Command command) {
+  shell_.program.view.showHelp(static_cast<int>(command));
+  return toolTipOf(command);
+}
 void MainWindowShell::focusMoved() { refreshCommandStates(shell_); }
 
 void MainWindowShell::treeSelectionChanged(TreeItem item) { onTreeSelection(shell_, item); }

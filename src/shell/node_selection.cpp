@@ -29,13 +29,10 @@ void takeRow(Shell& shell, StoreNode& node) {
   shell.program.project.currentNode = &node;
   shell.fromList = true;
   loadForm(shell);
-  refreshCommandStates(shell);
+  shell.program.view.showHelp(control::main::kItemList);
 }
 
-void showTreeHelp(Shell& shell) {
-  shell.program.view.showHelp(control::main::kTree);
-  refreshCommandStates(shell);
-}
+void showTreeHelp(Shell& shell) { shell.program.view.showHelp(control::main::kTree); }
 
 }  // namespace
 

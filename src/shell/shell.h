@@ -19,6 +19,9 @@ class StoreBuildDialog;
 enum class Tab { Inventory, Template, Freight, OrderForm, Confirmation, Layout, Variables };
 inline constexpr int kTabs = 7;
 
+// The number by which the help pane knows the open tab.
+inline constexpr int kHelpOfTab = 0;
+
 struct Shell {
   Shell(Program& theProgram, BrowserSystem& theBrowsers);
   ~Shell();

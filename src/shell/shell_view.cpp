@@ -42,6 +42,10 @@ void ShellView::refreshTreeItem(StoreNode& node) {
 void ShellView::selectInTree(StoreNode& node) {
   if (shell_ != nullptr) varlo::selectInTree(*shell_, node);
 }
+// What can be done is looked at whenever help is asked for, so on almost every move of the focus.
+void ShellView::showHelp(int /*id*/) {
+  if (shell_ != nullptr) varlo::refreshCommandStates(*shell_);
+}
 void ShellView::openInBrowser(std::string_view address) {
   if (shell_ != nullptr) varlo::openInBrowser(*shell_, address);
 }

@@ -1,5 +1,6 @@
 #include "shell/tab_switch.h"
 
+#include "core/program.h"
 #include "shell/command_states.h"
 #include "shell/main_layout.h"
 #include "shell/pages.h"
@@ -12,6 +13,7 @@ void switchTab(Shell& shell, Tab tab) {
   closeTabPage(shell);
   shell.currentTab = tab;
   shell.focusedField = shell.linkedField = 0;
+  shell.program.view.showHelp(kHelpOfTab);
   shell.descriptionCache.reset();
   openTabPage(shell);
   refreshCommandStates(shell);

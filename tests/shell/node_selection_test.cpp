@@ -137,6 +137,16 @@ TEST(RowSelection, DoesNothingWhileAGuardIsUp) {
   }
 }
 
+TEST(RowSelection, AsksForTheHelpOfTheListAndThatOfTheTreeForTheTree) {
+  SmallStore t;
+  t.view.helps.clear();
+  t.window.clickRow(0);
+  EXPECT_EQ(t.view.helps, std::vector{control::main::kItemList});
+  t.view.helps.clear();
+  t.logic.treeItemExpanding(t.window.theTree.selected());
+  EXPECT_EQ(t.view.helps, std::vector{control::main::kTree});
+}
+
 TEST(ListKeys, PostDeleteAndWithControlSelectAll) {
   SmallStore t;
   t.logic.listKey(Key::Delete, false);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/control_ids.h"
 #include "tests/support/shown_store.h"
 
 namespace varlo::test {
@@ -19,6 +20,15 @@ TEST(ShellView, WithoutAShellShowsNothing) {
   view.refreshTreeItem(node);
   view.selectInTree(node);
   EXPECT_EQ(node.treeItem, kNoTreeItem);
+}
+
+TEST(ShellView, RefreshesTheCommandsWheneverHelpIsAskedFor) {
+  ShownStore t;
+  t.project().projectFile.assign(kShopPath);
+  t.project().dirty = 1;
+  t.window.enableEntry(Command::Save, false);
+  t.view.showHelp(control::main::kTree);
+  EXPECT_TRUE(t.window.entryEnabled(Command::Save));
 }
 
 TEST(ShellView, InsertsANewItemWhereItsNodeHangsWhateverItsPrevIs) {

@@ -60,6 +60,11 @@ TEST_F(TabSwitch, ANumberWithoutATabIsIgnored) {
   EXPECT_EQ(t.shell.currentTab, Tab::Inventory);
 }
 
+TEST_F(TabSwitch, ShowsTheHelpOfTheTab) {
+  t.window.pickTab(3);
+  EXPECT_EQ(t.view.helps, std::vector{kHelpOfTab});
+}
+
 TEST_F(TabSwitch, RefreshesTheCommands) {
   t.project().dirty = 1;
   t.window.enableEntry(Command::Save, false);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/test_shell.h"
+
 namespace varlo {
 namespace {
 
@@ -34,6 +36,12 @@ TEST(Toolbar, EachButtonSendsTheCommandOfItsName) {
 TEST(Toolbar, ACommandWithoutAButtonHasNoTip) {
   EXPECT_EQ(toolTipOf(Command::Quit), "");
   EXPECT_EQ(toolTipOf(Command::None), "");
+}
+
+TEST(Toolbar, AToolTipGoesWithTheHelpOfItsCommand) {
+  test::TestShell t;
+  EXPECT_EQ(t.logic.toolTip(Command::Save), "Save");
+  EXPECT_EQ(t.view.helps, std::vector{static_cast<int>(Command::Save)});
 }
 
 }  // namespace

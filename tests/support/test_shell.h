@@ -1,6 +1,8 @@
 // The shell on a fake main window, for tests to start from.
 #pragma once
 
+#include <vector>
+
 #include "core/fixed_clock.h"
 #include "core/process_clipboard.h"
 #include "core/program.h"
@@ -20,13 +22,24 @@ inline constexpr const char* kShopText =
     "VERSION=107001\nNODE0=Home\n#BRANCH\nNODE0=Toys\n#BRANCH\nNODE1=Ball\n#EOB\nNODE2=Bats\nNODE3=Rows\n#EOB\n"
     "VAR=$OWN|1\nCURR=$\n";
 
+// The view of a shell, which also records what help it is asked for.
+class HelpedView : public ShellView {
+ public:
+  std::vector<int> helps;
+
+  void showHelp(int id) override {
+    helps.push_back(id);
+    ShellView::showHelp(id);
+  }
+};
+
 struct TestShell {
   FakeFiles files;
   FixedClock clock{kTestTime};
   FakeScreen screen;
   ProcessClipboard clipboard;
   FakeBrowsers browsers;
-  ShellView view;
+  HelpedView view;
   Program program{files, clock, screen, clipboard, view};
   Shell shell{program, browsers};
   MainWindowShell logic{shell};
