@@ -39,8 +39,9 @@ class FakeScreen : public Screen {
   std::function<int(int dialogId, DialogLogic& logic)> onDialog;
   // Makes the window of a modeless dialog; without it none can be opened.
   std::function<Dialog*(int dialogId, DialogLogic& logic)> onOpenDialog;
-  std::vector<PopupMenu> menus;         // that were shown
-  std::deque<Command> chosenFromMenus;  // without one the menu is left
+  std::vector<PopupMenu> menus;                     // that were shown
+  std::deque<Command> chosenFromMenus;              // without one the menu is left
+  std::function<Command(const PopupMenu&)> onMenu;  // plays the user of menus instead
 
   Answer messageBox(const MessageBoxRequest& request) override {
     boxes.push_back({std::string(request.text), std::string(request.title), request.buttons, request.icon});
@@ -78,6 +79,7 @@ class FakeScreen : public Screen {
   }
   Command popupMenu(const PopupMenu& menu) override {
     menus.push_back(menu);
+    if (onMenu) return onMenu(menu);
     return takeFirst(chosenFromMenus).value_or(Command::None);
   }
   void postCommand(Command command) override { posted.push_back(command); }
