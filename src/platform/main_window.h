@@ -149,6 +149,9 @@ struct MainWindow {
 // A key in the tree or the list that means something to the shell.
 enum class Key { Other, Delete, Control, Up, Down, KeypadPlus, KeypadMinus, A };
 
+// Row changes that the list tells for one key press.
+inline constexpr int kChangesOfAKey = 3;
+
 // What the window tells the shell.
 struct MainWindowLogic {
   virtual ~MainWindowLogic() = default;
@@ -178,6 +181,8 @@ struct MainWindowLogic {
   virtual int rowIcon(ItemData data) = 0;
   virtual void rowClicked(int row) = 0;  // kNoRow: beside the rows
   virtual void rowDoubleClicked(int row) = 0;
+  // The selection or the focus of a row changed. A key that selects rows, pressed without Ctrl, tells
+  // kChangesOfAKey changes in all, of the row that has the focus then; the last one counts.
   virtual void rowChanged(int row) = 0;
   virtual void columnClicked(int column) = 0;
   virtual void listKey(Key key, bool control) = 0;

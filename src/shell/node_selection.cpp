@@ -13,9 +13,6 @@
 namespace varlo {
 namespace {
 
-// A key press in the list changes up to three rows; the last change counts.
-constexpr int kChangesOfAKey = 3;
-
 bool ignoresRows(const Shell& shell) {
   return shell.notificationsMuted || shell.listBusy || shell.treeDragging || shell.listDragging;
 }

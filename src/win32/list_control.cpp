@@ -24,6 +24,11 @@ ListControl::ListControl(HWND list, HIMAGELIST icons, MainWindowLogic& logic, co
   constexpr DWORD kStyle = LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP;
   ::SendMessageA(list_, LVM_SETEXTENDEDLISTVIEWSTYLE, kStyle, kStyle);
   send(LVM_SETIMAGELIST, LVSIL_SMALL, icons);
+  ::SetWindowSubclass(list_, keys, 1, reinterpret_cast<DWORD_PTR>(this));
+}
+
+ListControl::~ListControl() {
+  if (::IsWindow(list_) != FALSE) ::RemoveWindowSubclass(list_, keys, 1);
 }
 
 LRESULT ListControl::send(UINT message, WPARAM wParam, const void* data) const {
@@ -125,7 +130,7 @@ void ListControl::notified(NMHDR& header) {
       fill(reinterpret_cast<NMLVDISPINFOA&>(header).item);
       break;
     case LVN_ITEMCHANGED:
-      if ((change.uChanged & LVIF_STATE) != 0) logic_.rowChanged(change.iItem);
+      if ((change.uChanged & LVIF_STATE) != 0) rowChanged(change);
       break;
     case LVN_COLUMNCLICK:
       logic_.columnClicked(change.iSubItem);
@@ -145,6 +150,42 @@ void ListControl::notified(NMHDR& header) {
     default:
       break;
   }
+}
+
+void ListControl::rowChanged(const NMLISTVIEW& change) {
+  if (!inKey_) {
+    logic_.rowChanged(change.iItem);
+    return;
+  }
+  keyChanges_.push_back(change.iItem);
+  if (((change.uOldState ^ change.uNewState) & LVIS_SELECTED) != 0) selectedByKey_ = true;
+}
+
+// A key tells of fewer changes where no row had the focus before, or several are being selected, and of more where
+// several were selected. So that the last one that counts is always that of the row gone to, they are told anew.
+void ListControl::tellKeyChanges() const {
+  if (!selectedByKey_ || controlIsDown()) {
+    for (const int row : keyChanges_) logic_.rowChanged(row);
+    return;
+  }
+  const int focused = static_cast<int>(::SendMessageA(list_, LVM_GETNEXTITEM, place(kNoRow), LVNI_FOCUSED));
+  for (int i = 0; i < kChangesOfAKey; ++i) logic_.rowChanged(focused);
+}
+
+// A letter selects when it arrives as a character, after the key.
+LRESULT CALLBACK ListControl::keys(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
+                                   DWORD_PTR self) {
+  auto& control = *reinterpret_cast<ListControl*>(self);
+  if (control.inKey_ || (message != WM_KEYDOWN && message != WM_CHAR)) {
+    return ::DefSubclassProc(list, message, wParam, lParam);
+  }
+  control.keyChanges_.clear();
+  control.selectedByKey_ = false;
+  control.inKey_ = true;
+  const LRESULT result = ::DefSubclassProc(list, message, wParam, lParam);
+  control.inKey_ = false;
+  control.tellKeyChanges();
+  return result;
 }
 
 HIMAGELIST ListControl::dragPicture(int row, Point mouse, POINT& grabbed) const {

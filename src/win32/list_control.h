@@ -6,6 +6,8 @@
 
 #include <commctrl.h>
 
+#include <vector>
+
 #include "platform/main_window.h"
 #include "win32/drag_image.h"
 
@@ -14,6 +16,9 @@ namespace varlo {
 class ListControl : public ListWindow {
  public:
   ListControl(HWND list, HIMAGELIST icons, MainWindowLogic& logic, const DragImage& dragImage);
+  ~ListControl() override;
+  ListControl(const ListControl&) = delete;
+  ListControl& operator=(const ListControl&) = delete;
 
   [[nodiscard]] HWND window() const { return list_; }
   // A notification of the list view.
@@ -38,12 +43,18 @@ class ListControl : public ListWindow {
  private:
   LRESULT send(UINT message, WPARAM wParam, const void* data = nullptr) const;
   void fill(LVITEMA& item);
+  void rowChanged(const NMLISTVIEW& change);
+  void tellKeyChanges() const;
+  static LRESULT CALLBACK keys(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id, DWORD_PTR self);
 
   HWND list_;
   MainWindowLogic& logic_;
   const DragImage& dragImage_;
   int columns_ = 0;
   int holds_ = 0;
+  bool inKey_ = false;           // the list view is handling a key
+  std::vector<int> keyChanges_;  // rows that changed by it
+  bool selectedByKey_ = false;   // the selection changed by it
 };
 
 }  // namespace varlo

@@ -1,22 +1,6 @@
 // The program in its real window, on the demo store.
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <windows.h>
-
-#include <commctrl.h>
-
-#include "core/fixed_clock.h"
-#include "core/program.h"
-#include "core/start_up.h"
-#include "persist/file_steps.h"
-#include "persist/project_load.h"
-#include "persist/project_save.h"
-#include "platform/control_ids.h"
-#include "tests/desktop/desktop_program.h"
-#include "tests/desktop/window_driving.h"
-#include "tests/desktop/window_reading.h"
+#include "tests/desktop/desktop_fixture.h"
 
 namespace varlo::test {
 namespace {
@@ -27,38 +11,7 @@ using ::testing::IsEmpty;
 using ::testing::Not;
 using namespace control;
 
-const TreePath kBlackTea{"Home", "Tea", "Black tea"};
-const TreePath kGreenTea{"Home", "Tea", "Green and white tea"};
-
-class Desktop : public ::testing::Test {
- protected:
-  Desktop() { installation_.configure(); }
-
-  void start() { program_ = std::make_unique<DesktopProgram>(installation_.folder()); }
-  DesktopProgram& program() { return *program_; }
-  [[nodiscard]] HWND tree() const { return program_->control(main::kTree); }
-  [[nodiscard]] HWND list() const { return program_->control(main::kItemList); }
-
-  // Clicks an item of the tree.
-  HTREEITEM pick(const TreePath& path) {
-    const HTREEITEM item = FindItem(tree(), path);
-    EXPECT_NE(item, nullptr) << path.back();
-    if (item != nullptr) Click(program(), CentreOfItem(tree(), item));
-    return item;
-  }
-  [[nodiscard]] std::vector<std::string> below(const TreePath& path) const {
-    return LabelsBelow(tree(), FindItem(tree(), path));
-  }
-  [[nodiscard]] bool canSave() const { return EntryEnabled(program_->window(), static_cast<UINT>(Command::Save)); }
-  void typeInto(ControlId field, const std::string& text) {
-    Click(program(), CentreOf(program().field(field)));
-    PressWith(program(), VK_CONTROL, VK_END);
-    TypeText(program(), text);
-  }
-
-  Installation installation_;
-  std::unique_ptr<DesktopProgram> program_;
-};
+class Desktop : public DesktopTest {};
 
 TEST_F(Desktop, OpensTheProjectOfTheConfigurationAsATreeWithItsFirstPageInTheForm) {
   start();

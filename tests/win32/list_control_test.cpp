@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "tests/win32/main_window_fixture.h"
 
@@ -39,6 +40,19 @@ class ListControlTest : public MainWindowTest {
     ::PostMessageA(listHandle(), up, 0, MAKELPARAM(place.x, place.y));
     ::SendMessageA(listHandle(), down, MK_LBUTTON, MAKELPARAM(place.x, place.y));
     pump(handle);
+  }
+  [[nodiscard]] std::vector<std::string> changesTold() const {
+    std::vector<std::string> changes;
+    for (const std::string& line : logic.told) {
+      if (line.starts_with("rowChanged")) changes.push_back(line);
+    }
+    return changes;
+  }
+  void expectKeyTells(WPARAM key, int row) {
+    logic.told.clear();
+    press(handle, listHandle(), key);
+    EXPECT_EQ(changesTold(), std::vector<std::string>(3, "rowChanged " + std::to_string(row)));
+    EXPECT_TRUE(list().isSelected(row));
   }
 };
 
@@ -84,17 +98,49 @@ TEST_F(ListControlTest, TellsOfAClickOnARowAndBesideTheRows) {
   EXPECT_EQ(logic.count("rowDoubleClicked 2"), 1);
 }
 
-// The shell acts on the third change of a key press: the old row loses the selection and the focus, the new one
-// gets both.
-TEST_F(ListControlTest, OneKeyPressTellsThreeChanges) {
+// The shell acts on the third change of a key press.
+TEST_F(ListControlTest, TellsThreeChangesOfTheRowThatAKeyGoesTo) {
   click(0);
-  settle();
+  expectKeyTells(VK_DOWN, 1);
+  expectKeyTells(VK_END, 3);
+  expectKeyTells(VK_UP, 2);
+  expectKeyTells(VK_HOME, 0);
+}
+
+TEST_F(ListControlTest, TellsThreeChangesWhereNoRowHadTheFocusBefore) { expectKeyTells(VK_DOWN, 0); }
+
+TEST_F(ListControlTest, TellsThreeChangesWhereSeveralRowsAreSelectedOrWere) {
+  click(0);
+  {
+    const HeldKey held(VK_SHIFT);
+    expectKeyTells(VK_DOWN, 1);
+    expectKeyTells(VK_DOWN, 2);
+    expectKeyTells(VK_UP, 1);
+    expectKeyTells(VK_END, 3);
+  }
+  expectKeyTells(VK_UP, 2);
+}
+
+// The selection moves with the character, after the key itself.
+TEST_F(ListControlTest, TellsThreeChangesOfTheRowThatBeginsWithATypedLetter) {
+  click(0);
+  expectKeyTells('F', 2);
+}
+
+TEST_F(ListControlTest, TellsNothingOfAKeyThatGoesNowhere) {
+  click(3);
+  logic.told.clear();
   press(handle, listHandle(), VK_DOWN);
-  EXPECT_EQ(logic.count("listKey " + std::to_string(static_cast<int>(Key::Down))), 1);
-  EXPECT_EQ(logic.count("rowChanged 0") + logic.count("rowChanged 1"), 3);
-  EXPECT_EQ(logic.told.back(), "rowChanged 1");
-  EXPECT_TRUE(list().isSelected(1));
-  EXPECT_FALSE(list().isSelected(0));
+  EXPECT_EQ(changesTold(), (std::vector<std::string>{}));
+}
+
+// It moves the focus and leaves the selection alone.
+TEST_F(ListControlTest, TellsFewerThanThreeChangesOfAKeyWithCtrl) {
+  click(0);
+  const HeldKey held(VK_CONTROL);
+  logic.told.clear();
+  press(handle, listHandle(), VK_DOWN);
+  EXPECT_EQ(changesTold(), (std::vector<std::string>{"rowChanged 0", "rowChanged 1"}));
 }
 
 TEST_F(ListControlTest, TellsOfControlWithAKey) {
