@@ -34,6 +34,7 @@ class DialogHost {
   void pressed(ControlId button);
   // Not while a box or dialog of its own waits for an answer: what opened that is still at work.
   [[nodiscard]] bool isFree() const { return ::IsWindowEnabled(dialog_.window()) != FALSE; }
+  [[nodiscard]] bool filterTab(const MSGFILTER& filter) const;
   INT_PTR notify(NMHDR& header);
   void fillCell(NMLVDISPINFOA& info);
   void closed();
@@ -128,11 +129,19 @@ void DialogHost::pressed(ControlId button) {
   }
 }
 
+// Tab moves the focus. By itself a rich edit would not leave its own page, and put the character into its text too.
+bool DialogHost::filterTab(const MSGFILTER& filter) const {
+  if (filter.wParam != VK_TAB || ::GetKeyState(VK_CONTROL) < 0) return false;
+  if (filter.msg == WM_KEYDOWN) {
+    const HWND top = form_ == Form::Page ? ::GetParent(dialog_.window()) : dialog_.window();
+    ::SendMessageA(top, WM_NEXTDLGCTL, ::GetKeyState(VK_SHIFT) < 0 ? 1 : 0, FALSE);
+  }
+  return filter.msg == WM_KEYDOWN || filter.msg == WM_CHAR;
+}
+
 INT_PTR DialogHost::notify(NMHDR& header) {
   if (header.code == EN_MSGFILTER) {
-    // Tab moves the focus; a rich edit would put the character into its text as well.
-    const auto& filter = reinterpret_cast<const MSGFILTER&>(header);
-    const bool swallowed = filter.msg == WM_CHAR && filter.wParam == VK_TAB;
+    const bool swallowed = filterTab(reinterpret_cast<const MSGFILTER&>(header));
     ::SetWindowLongPtrA(dialog_.window(), DWLP_MSGRESULT, swallowed ? 1 : 0);
     return TRUE;
   }

@@ -23,6 +23,8 @@ INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     run.window = std::make_unique<Win32MainWindow>(window, run.logic);
     ::SetWindowLongPtrA(window, DWLP_USER, reinterpret_cast<LONG_PTR>(run.window.get()));
     run.window->open();
+    // By itself it would come up once nothing waits, and so behind a box of the first command.
+    ::ShowWindow(window, SW_SHOW);
     return TRUE;
   }
   auto* self = reinterpret_cast<Win32MainWindow*>(::GetWindowLongPtrA(window, DWLP_USER));
