@@ -142,7 +142,9 @@ void RightClick(const DesktopProgram& program, POINT point) {
   sendMouse(MOUSEEVENTF_RIGHTUP);
 }
 
-void Drag(const DesktopProgram& program, POINT from, POINT to) {
+void MoveMouse(const DesktopProgram& program, POINT point) { moveTo(program, point); }
+
+void Drag(const DesktopProgram& program, POINT from, POINT to, const std::function<void()>& beforeRelease) {
   waitForDoubleClickToPass(from);
   moveTo(program, from);
   sendMouse(MOUSEEVENTF_LEFTDOWN);
@@ -151,6 +153,7 @@ void Drag(const DesktopProgram& program, POINT from, POINT to) {
     moveTo(program, {from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps});
   }
   moveTo(program, to);
+  if (beforeRelease) beforeRelease();
   sendMouse(MOUSEEVENTF_LEFTUP);
   program.settle();
 }

@@ -5,6 +5,7 @@
 
 #include <commctrl.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -25,7 +26,9 @@ void Click(const DesktopProgram& program, POINT point);
 void ClickWith(const DesktopProgram& program, WORD modifier, POINT point);
 void DoubleClick(const DesktopProgram& program, POINT point);
 void RightClick(const DesktopProgram& program, POINT point);
-void Drag(const DesktopProgram& program, POINT from, POINT to);
+// `beforeRelease` runs while the button is still held.
+void Drag(const DesktopProgram& program, POINT from, POINT to, const std::function<void()>& beforeRelease = {});
+void MoveMouse(const DesktopProgram& program, POINT point);
 
 // Waits for a dialog or message box with this title; null when none comes.
 HWND WaitForBox(const std::string& title);

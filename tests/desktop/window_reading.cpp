@@ -90,6 +90,14 @@ std::vector<int> SelectedRows(HWND list) {
   return rows;
 }
 
+int RowIcon(HWND list, int row) {
+  LVITEMA wanted{};
+  wanted.mask = LVIF_IMAGE;
+  wanted.iItem = row;
+  ::SendMessageA(list, LVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&wanted));
+  return wanted.iImage;
+}
+
 bool EntryEnabled(HWND window, UINT command) {
   return (::GetMenuState(::GetMenu(window), command, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED)) == 0;
 }

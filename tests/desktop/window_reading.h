@@ -23,6 +23,7 @@ int IconOf(HWND tree, HTREEITEM item);
 std::vector<std::string> CellsOf(HWND list, int column);
 std::string CellOf(HWND list, int row, int column);
 std::vector<int> SelectedRows(HWND list);
+int RowIcon(HWND list, int row);
 
 // Entries of the menu bar and of popup menus.
 bool EntryEnabled(HWND window, UINT command);
