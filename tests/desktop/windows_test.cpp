@@ -1,6 +1,8 @@
 // Every window as a person sees it: nothing is cut off, everything can be reached by key, every field has a label.
 // With VARLO_SCREENSHOTS set, each is photographed.
 
+#include <cstdlib>
+
 #include "tests/desktop/desktop_fixture.h"
 #include "tests/desktop/window_faults.h"
 
@@ -12,6 +14,14 @@ using ::testing::IsEmpty;
 class Windows : public DesktopTest {
  protected:
   Windows() { start(); }
+
+  [[nodiscard]] int dpi() const {
+    const HDC screen = ::GetDC(nullptr);
+    const int dots = ::GetDeviceCaps(screen, LOGPIXELSX);
+    ::ReleaseDC(nullptr, screen);
+    return dots;
+  }
+  [[nodiscard]] int scaled(int pixels) const { return ::MulDiv(pixels, dpi(), 96); }
 
   void looksAt(Command command, const std::string& title, const std::string& picture) {
     program().post(command);
@@ -39,12 +49,47 @@ TEST_F(Windows, AreWhole) {
 TEST_F(Windows, HaveAWholeInventoryPage) {
   EXPECT_THAT(FaultsOf(program().page()), IsEmpty());
   for (const SIZE size : {SIZE{800, 600}, SIZE{1024, 740}, SIZE{1000, 700}}) {
-    ::SetWindowPos(program().window(), nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER);
+    ::SetWindowPos(program().window(), nullptr, 0, 0, scaled(size.cx), scaled(size.cy), SWP_NOZORDER);
     program().settle();
     const std::string name = std::to_string(size.cx) + "x" + std::to_string(size.cy);
     TakePicture(program().window(), "main_" + name);
     EXPECT_THAT(FaultsOf(program().page()), IsEmpty()) << name;
   }
+}
+
+// At 150 and 200 percent there are images of their own.
+TEST_F(Windows, AreScaledToTheScreen) {
+  using namespace control;
+  const char* expected = std::getenv("VARLO_DPI");
+  if (expected != nullptr) {
+    EXPECT_EQ(std::to_string(dpi()), expected);
+  }
+  const int icon = dpi() >= 192 ? 32 : dpi() >= 144 ? 24 : 16;
+  const auto expectIcons = [&](HWND control, UINT message, WPARAM which) {
+    int width = 0;
+    int height = 0;
+    ::ImageList_GetIconSize(reinterpret_cast<HIMAGELIST>(::SendMessageA(control, message, which, 0)), &width,
+                            &height);
+    EXPECT_EQ(width, icon);
+    EXPECT_EQ(height, icon);
+  };
+  const HWND toolbar = program().control(main::kToolbar);
+  expectIcons(tree(), TVM_GETIMAGELIST, TVSIL_NORMAL);
+  expectIcons(list(), LVM_GETIMAGELIST, LVSIL_SMALL);
+  expectIcons(toolbar, TB_GETIMAGELIST, 0);
+  EXPECT_EQ(::SendMessageA(list(), LVM_GETCOLUMNWIDTH, 0, 0), scaled(140));
+  EXPECT_EQ(::SendMessageA(list(), LVM_GETCOLUMNWIDTH, 5, 0), scaled(80));
+
+  // The buttons find room in the toolbar, and the toolbar beside the tabs.
+  RECT bar{};
+  RECT tabsPlace{};
+  RECT last{};
+  ::GetWindowRect(toolbar, &bar);
+  ::GetWindowRect(tabs(), &tabsPlace);
+  ::SendMessageA(toolbar, TB_GETRECT, static_cast<WPARAM>(Command::PreviewPage), reinterpret_cast<LPARAM>(&last));
+  EXPECT_LE(last.right, bar.right - bar.left);
+  EXPECT_LE(last.bottom, bar.bottom - bar.top);
+  EXPECT_LE(bar.right, tabsPlace.left);
 }
 
 // The controls that Tab reaches, in its order.
