@@ -30,6 +30,7 @@ namespace fs = std::filesystem;
 using Time = std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
+constexpr const char* kProgramName = "varlo.exe";
 constexpr std::size_t kProducts = 10000;
 constexpr std::size_t kInCategory = 1000;
 constexpr int kRuns = 5;
@@ -46,14 +47,17 @@ double medianOf(std::vector<double> values) {
 // A program that was started, until it has ended.
 class RunningProgram {
  public:
-  RunningProgram(const fs::path& program, const fs::path& folder) {
+  // `folder` is an installation with the program in it.
+  explicit RunningProgram(const fs::path& folder) {
     STARTUPINFOA start{};
     start.cb = sizeof start;
-    if (::CreateProcessA(program.string().c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr,
-                         folder.string().c_str(), &start, &process_) == 0) {
+    if (::CreateProcessA((folder / kProgramName).string().c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr,
+                         nullptr, &start, &process_) == 0) {
       throw std::runtime_error("The program can't be started.");
     }
+    // The window comes up first and fills itself then, the item list last.
     waitFor([&] { return (window_ = mainWindow()) != nullptr; });
+    waitFor([&] { return ::SendMessageA(list(), LVM_GETITEMCOUNT, 0, 0) > 0; });
     settle();
   }
   ~RunningProgram() {
@@ -109,11 +113,11 @@ void writeConfig(const fs::path& folder, const fs::path& project) {
 }
 
 // Start to a usable window, the median of some runs, after one that warms up.
-double startTime(const fs::path& program, const fs::path& folder) {
+double startTime(const fs::path& folder) {
   std::vector<double> times;
   for (int run = 0; run <= kRuns; ++run) {
     const auto start = Time::now();
-    const RunningProgram running(program, folder);
+    const RunningProgram running(folder);
     if (run > 0) times.push_back(millisecondsSince(start));
   }
   return medianOf(times);
@@ -140,18 +144,19 @@ void measure(const fs::path& program, const fs::path& installation) {
   const fs::path folder = fs::temp_directory_path() / "varlo_desktop_bench";
   fs::remove_all(folder);
   fs::copy(installation, folder, fs::copy_options::recursive);
+  fs::copy_file(program, folder / kProgramName);
   writeConfig(folder, folder / "Projects" / "Demo" / "Demo.stp");
-  std::printf("start to a usable window, demo store    %8.1f ms\n", startTime(program, folder));
+  std::printf("start to a usable window, demo store    %8.1f ms\n", startTime(folder));
   {
-    const RunningProgram running(program, folder);
+    const RunningProgram running(folder);
     std::printf("peak memory, demo store                 %8.1f MiB\n", running.peakMegabytes());
   }
   const fs::path large = folder / "Projects" / "Large";
   fs::create_directories(large);
   WriteMadeProject({.products = kProducts, .inCategory = kInCategory}, large.string(), "Large.stp");
   writeConfig(folder, large / "Large.stp");
-  std::printf("start with %zu products              %8.1f ms\n", kProducts, startTime(program, folder));
-  const RunningProgram running(program, folder);
+  std::printf("start with %zu products              %8.1f ms\n", kProducts, startTime(folder));
+  const RunningProgram running(folder);
   std::printf("select a category of %zu products     %8.1f ms\n", kInCategory, selectionTime(running));
   std::printf("peak memory with %zu products        %8.1f MiB\n", kProducts, running.peakMegabytes());
 }
