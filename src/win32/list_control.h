@@ -6,6 +6,7 @@
 
 #include <commctrl.h>
 
+#include <unordered_set>
 #include <vector>
 
 #include "platform/main_window.h"
@@ -45,6 +46,7 @@ class ListControl : public ListWindow {
   void fill(LVITEMA& item);
   void rowChanged(const NMLISTVIEW& change);
   void tellKeyChanges() const;
+  void prepareShownRows();
   static LRESULT CALLBACK keys(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id, DWORD_PTR self);
 
   HWND list_;
@@ -52,9 +54,10 @@ class ListControl : public ListWindow {
   const DragImage& dragImage_;
   int columns_ = 0;
   int holds_ = 0;
-  bool inKey_ = false;           // the list view is handling a key
-  std::vector<int> keyChanges_;  // rows that changed by it
-  bool selectedByKey_ = false;   // the selection changed by it
+  std::unordered_set<ItemData> prepared_;  // rows whose cells are asked for
+  bool inKey_ = false;                     // the list view is handling a key
+  std::vector<int> keyChanges_;            // rows that changed by it
+  bool selectedByKey_ = false;             // the selection changed by it
 };
 
 }  // namespace varlo
