@@ -107,6 +107,12 @@ TEST_F(WindowLife, MakesTheToolbarTheColumnsAndTheInventoryPage) {
   EXPECT_EQ(t.shell.tabPage, t.window.page());
 }
 
+TEST_F(WindowLife, AsksForTheHelpOfTheOpenTab) {
+  t.nameShop();
+  t.open();
+  EXPECT_EQ(t.view.helps, std::vector{kHelpOfTab});
+}
+
 TEST_F(WindowLife, ThePostedWorkFillsTheTreeAndLaysOut) {
   t.nameShop();
   t.open();
