@@ -11,10 +11,11 @@ namespace {
 
 using PageAction = void (*)(Dialog& page, ControlId richEdit);
 
-// Runs `action` on the rich edit that has the focus. False when none has.
+// Runs `action` on the rich edit that has the focus. False when none has. Without a current node the edit is grey,
+// and keeps a focus that it had: what was put there would belong to nothing.
 bool onRichEdit(Shell& shell, PageAction action) {
   if (shell.tabPage == nullptr || focusPlace(shell) != FocusPlace::RichEdit) return false;
-  action(*shell.tabPage, richEditOf(shell.currentTab));
+  if (shell.program.project.currentNode != nullptr) action(*shell.tabPage, richEditOf(shell.currentTab));
   return true;
 }
 

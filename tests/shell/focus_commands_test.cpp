@@ -49,6 +49,16 @@ TEST_F(FocusCommands, PasteInTheRichEditReplacesTheSelectionAndPostsNothing) {
   EXPECT_THAT(t.screen.posted, IsEmpty());
 }
 
+TEST_F(FocusCommands, WithoutACurrentNodeNothingIsPutIntoTheRichEdit) {
+  t.project().currentNode = nullptr;
+  focusOn(Focus::Place::Page, kEdit);
+  page.window.clipboard = "Red ";
+  run(Command::Paste);
+  run(Command::Delete);
+  EXPECT_EQ(page.window.text(kEdit), "Round ball");
+  EXPECT_THAT(t.screen.posted, IsEmpty());
+}
+
 TEST_F(FocusCommands, DeleteInTheRichEditRemovesTheSelectionAndNoNode) {
   focusOn(Focus::Place::Page, kEdit);
   run(Command::Delete);
