@@ -86,6 +86,10 @@ void Win32Dialog::enable(ControlId control, bool on) {
   if (target == nullptr || (::IsWindowEnabled(target) != FALSE) == on) return;
   if (!on) leave(target);
   ::EnableWindow(target, on ? TRUE : FALSE);
+  // By itself a rich edit does not look as if it were disabled.
+  if (KindOf(target) == ControlKind::RichEdit) {
+    ::SendMessageA(target, EM_SETBKGNDCOLOR, on ? TRUE : FALSE, static_cast<LPARAM>(::GetSysColor(COLOR_3DFACE)));
+  }
 }
 
 bool Win32Dialog::isChecked(ControlId control) { return ::IsDlgButtonChecked(window_, control) == BST_CHECKED; }

@@ -55,7 +55,11 @@ HWND mainWindowOf(DWORD thread) {
 
 }  // namespace
 
-void UseOwnDesktop() { ::SetThreadDesktop(ownDesktop()); }
+void UseOwnDesktop() {
+  constexpr UINT kDoubleClickTime = 200;  // what has to pass between two clicks that are no double click
+  ::SetDoubleClickTime(kDoubleClickTime);
+  ::SetThreadDesktop(ownDesktop());
+}
 
 bool WaitFor(const std::function<bool()>& isDone) {
   for (const auto end = std::chrono::steady_clock::now() + 10s; std::chrono::steady_clock::now() < end;) {
@@ -116,15 +120,14 @@ HWND DesktopProgram::page() const {
 
 bool DesktopProgram::runs() const { return window_ != nullptr && ::IsWindow(window_) != 0; }
 
-// A message that is sent is handled between two others; the second one comes after what the first found waiting.
+// Nothing may wait in the thread of the window, several times in a row: what is handled may be followed by more.
 void DesktopProgram::settle() const {
-  for (int i = 0; i < 3; ++i) {
-    onWindowThread([] {
-      MSG message;
-      // Painting is the last that a thread does; without it nothing else waits.
-      ::PeekMessageA(&message, nullptr, WM_PAINT, WM_PAINT, PM_NOREMOVE);
-    });
-    std::this_thread::sleep_for(10ms);
+  constexpr int kIdleLooks = 4;
+  for (int idle = 0, looks = 0; idle < kIdleLooks && looks < 2000; ++looks) {
+    bool waits = false;
+    onWindowThread([&] { waits = HIWORD(::GetQueueStatus(QS_INPUT | QS_POSTMESSAGE)) != 0; });
+    idle = waits ? 0 : idle + 1;
+    std::this_thread::sleep_for(2ms);
   }
 }
 

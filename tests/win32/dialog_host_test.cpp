@@ -344,6 +344,15 @@ TEST_F(Page, RichEditCopiesAndPastes) {
   EXPECT_EQ(dialog().text(kText), "ab");
 }
 
+TEST_F(Page, RichEditThatIsDisabledHasTheColourOfItsPage) {
+  const auto grey = static_cast<LPARAM>(::GetSysColor(COLOR_3DFACE));
+  const auto isGrey = [&] { return ::SendMessageA(logic.item(kText), EM_SETBKGNDCOLOR, FALSE, grey) == grey; };
+  dialog().enable(kText, false);
+  EXPECT_TRUE(isGrey());
+  dialog().enable(kText, true);
+  EXPECT_FALSE(isGrey());
+}
+
 TEST_F(Page, TabCharacterDoesNotEnterTheRichEdit) {
   dialog().setText(kText, "");
   ::SendMessageA(logic.item(kText), WM_CHAR, VK_TAB, 1);
