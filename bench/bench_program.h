@@ -33,6 +33,9 @@ class QuietScreen : public Screen {
   std::optional<std::uint32_t> chooseColour(std::uint32_t /*start*/, CustomColours& /*custom*/) override {
     return std::nullopt;
   }
+  int runDialog(int /*dialogId*/, DialogLogic& /*logic*/) override { return 0; }
+  Dialog* openDialog(int /*dialogId*/, DialogLogic& /*logic*/) override { return nullptr; }
+  Command popupMenu(const PopupMenu& /*menu*/) override { return Command::None; }
   void postCommand(Command /*command*/) override {}
 
   [[nodiscard]] int boxes() const { return boxes_; }

@@ -1,5 +1,7 @@
 #include "win32/win32_main_window.h"
 
+#include <uxtheme.h>
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -285,6 +287,8 @@ Dialog* Win32MainWindow::openPage(int dialogId, DialogLogic& logic) {
   Win32Dialog* page = OpenPageDialog(window_, dialogId, logic);
   if (page == nullptr) return nullptr;
   page_ = page->window();
+  // The page looks like the inside of its tab.
+  ::EnableThemeDialogTexture(page_, ETDT_ENABLETAB);
   const HWND above = ::GetWindow(item(control::main::kTabs), GW_HWNDPREV);
   ::SetWindowPos(page_, above == nullptr ? HWND_TOP : above, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);

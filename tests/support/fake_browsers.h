@@ -12,6 +12,9 @@ namespace varlo::test {
 
 class FakeBrowsers : public BrowserSystem {
  public:
+  FakeBrowsers();
+  ~FakeBrowsers() override;
+
   std::set<std::string> conversations;         // "service/topic" that answer
   bool starts = true;                          // whether programs can be started
   std::map<std::string, std::string> classes;  // the registry

@@ -14,6 +14,9 @@ namespace varlo::test {
 
 class FakeTree : public TreeWindow {
  public:
+  FakeTree();
+  ~FakeTree() override;
+
   struct Item {
     TreeItem parent = kNoTreeItem;
     std::string label;
@@ -138,6 +141,9 @@ class FakeTree : public TreeWindow {
 
 class FakeList : public ListWindow {
  public:
+  FakeList();
+  ~FakeList() override;
+
   MainWindowLogic* logic = nullptr;
   std::map<int, int> rowsAtY;  // what lies under the mouse, by its height
   std::vector<ListColumn> columns;
@@ -198,7 +204,10 @@ class FakeList : public ListWindow {
 
 class FakeMainWindow : public MainWindow {
  public:
-  explicit FakeMainWindow(MainWindowLogic& logic) : logic_(logic) { theTree.logic = theList.logic = &logic; }
+  explicit FakeMainWindow(MainWindowLogic& logic);
+  ~FakeMainWindow() override;
+  FakeMainWindow(const FakeMainWindow&) = delete;
+  FakeMainWindow& operator=(const FakeMainWindow&) = delete;
 
   FakeTree theTree;
   FakeList theList;

@@ -21,6 +21,9 @@ struct ShownBox {
 
 class FakeScreen : public Screen {
  public:
+  FakeScreen();
+  ~FakeScreen() override;
+
   std::vector<ShownBox> boxes;     // in the order in which they were shown
   std::deque<Answer> answers;      // for the boxes to come; without one it is Ok or No
   std::vector<std::string> tasks;  // texts of the task dialogs

@@ -15,7 +15,10 @@ namespace varlo::test {
 
 class FakeWindow : public Dialog {
  public:
-  explicit FakeWindow(DialogLogic& logic) : logic_(logic) {}
+  explicit FakeWindow(DialogLogic& logic);
+  ~FakeWindow() override;
+  FakeWindow(const FakeWindow&) = delete;
+  FakeWindow& operator=(const FakeWindow&) = delete;
 
   std::string clipboard;
 

@@ -11,6 +11,9 @@ namespace varlo::test {
 
 class RecordingView : public View {
  public:
+  RecordingView();
+  ~RecordingView() override;
+
   std::vector<std::string> calls;
 
   void loadForm() override { calls.emplace_back("loadForm"); }

@@ -21,6 +21,9 @@ struct TestProgram {
   RecordingView view;
   Program program{files, clock, screen, clipboard, view};
 
+  TestProgram();
+  ~TestProgram();
+
   StoreProject& project() { return program.project; }
   AppConfig& config() { return program.config; }
 };

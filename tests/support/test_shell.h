@@ -25,6 +25,9 @@ inline constexpr const char* kShopText =
 // The view of a shell, which also records what help it is asked for.
 class HelpedView : public ShellView {
  public:
+  HelpedView();
+  ~HelpedView() override;
+
   std::vector<int> helps;
 
   void showHelp(int id) override {
@@ -45,8 +48,8 @@ struct TestShell {
   MainWindowShell logic{shell};
   FakeMainWindow window{logic};
 
-  TestShell() { view.setShell(&shell); }
-  ~TestShell() { view.setShell(nullptr); }
+  TestShell();
+  ~TestShell();
 
   StoreProject& project() { return program.project; }
   AppConfig& config() { return program.config; }
