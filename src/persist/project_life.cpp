@@ -1,7 +1,5 @@
 #include "persist/project_life.h"
 
-#include <optional>
-
 #include "core/messages.h"
 #include "core/node_commands.h"
 #include "core/open_file.h"
@@ -115,11 +113,13 @@ int ProjectOpenPath(Program& program, std::string_view path, bool createIfMissin
   return 0;
 }
 
+std::optional<std::string> ChooseProjectFile(Program& program, std::string_view title) {
+  return program.screen.chooseFile(
+      {.folder = ProjectsFolder(program), .title = title, .filter = message::kProjectFilter, .extension = "stp"});
+}
+
 int ProjectOpenDialog(Program& program) {
-  const std::optional<std::string> path = program.screen.chooseFile({.folder = ProjectsFolder(program),
-                                                                     .title = message::kOpenTitle,
-                                                                     .filter = message::kProjectFilter,
-                                                                     .extension = "stp"});
+  const std::optional<std::string> path = ChooseProjectFile(program, message::kOpenTitle);
   if (!path) return 0;
   SavePrompt(program);
   return ProjectOpenPath(program, *path, false);

@@ -1,6 +1,7 @@
 // How a project comes into being, opens, saves, and is replaced by another.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -23,6 +24,9 @@ void ProjectCopyFormTemplates(Program& program);
 // Opens a project; ".stp" is appended to a path without any dot. 1 opened, or made new with
 // `createIfMissing`; 0 with a message.
 int ProjectOpenPath(Program& program, std::string_view path, bool createIfMissing);
+
+// Lets the user choose a project's file, below a title; none when that was cancelled.
+std::optional<std::string> ChooseProjectFile(Program& program, std::string_view title);
 
 // Lets the user choose a project, offers to save the open one, and opens the chosen one. 1 when one was
 // opened.

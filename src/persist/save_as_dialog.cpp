@@ -59,10 +59,7 @@ void SaveAsDialog::closeRequested(Dialog& dialog) {
 }
 
 void SaveAsDialog::browse(Dialog& dialog) {
-  const std::optional<std::string> chosen = program_.screen.chooseFile({.folder = ProjectsFolder(program_),
-                                                                        .title = message::kSaveAsTitle,
-                                                                        .filter = message::kProjectFilter,
-                                                                        .extension = "stp"});
+  const std::optional<std::string> chosen = ChooseProjectFile(program_, message::kSaveAsTitle);
   if (!chosen) return;
   std::string path = *chosen;
   while (TextReplaceNoCase(path, kExtension, "") != std::string::npos) {

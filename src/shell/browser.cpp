@@ -7,6 +7,7 @@
 #include "core/messages.h"
 #include "core/open_file.h"
 #include "core/program.h"
+#include "shell/guards.h"
 #include "shell/shell.h"
 
 namespace varlo {
@@ -27,18 +28,6 @@ constexpr std::array<std::string_view, 5> kUsualPlaces{
     "c:\\Program Files\\Netscape\\Navigator\\Program\\netscape.exe",
     "c:\\Netscape\\netscape.exe",
     "c:\\iexplore\\iexplore.exe",
-};
-
-// A launch is under way, until the end of the scope.
-class LaunchGuard {
- public:
-  explicit LaunchGuard(Shell& shell) : shell_(shell) { shell_.launchBusy = true; }
-  ~LaunchGuard() { shell_.launchBusy = false; }
-  LaunchGuard(const LaunchGuard&) = delete;
-  LaunchGuard& operator=(const LaunchGuard&) = delete;
-
- private:
-  Shell& shell_;
 };
 
 std::string targetOf(Files& files, std::string_view url) {
@@ -87,7 +76,7 @@ std::string_view usualBrowser(Files& files) {
 
 bool launchBrowser(Shell& shell, std::string_view browser, std::string_view url, int newWindow) {
   if (shell.launchBusy || url.empty()) return false;
-  const LaunchGuard guard(shell);
+  const Raised busy(shell.launchBusy);
   const std::string program(browser);
   const std::string target = targetOf(shell.program.files, url);
   if (newWindow != kAlwaysStart && showInRunning(shell.browsers, serviceOf(program), target, newWindow)) return true;

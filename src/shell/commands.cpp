@@ -44,16 +44,9 @@ void runDialog(Shell& shell) {
   refreshCommandStates(shell);
 }
 
-std::optional<std::string> chooseOtherProject(Program& program) {
-  return program.screen.chooseFile({.folder = ProjectsFolder(program),
-                                    .title = message::kImportTitle,
-                                    .filter = message::kProjectFilter,
-                                    .extension = "stp"});
-}
-
 // The tree was filled anew, so its selection is gone and the form may show what was read over.
 void merge(Shell& shell) {
-  const std::optional<std::string> path = chooseOtherProject(shell.program);
+  const std::optional<std::string> path = ChooseProjectFile(shell.program, message::kImportTitle);
   if (!path || ProjectMerge(shell.program, path->c_str()) == 0) return;
   StoreNode* current = shell.program.project.currentNode;
   if (current != nullptr) selectInTree(shell, *current);
@@ -61,7 +54,7 @@ void merge(Shell& shell) {
 }
 
 void importFreight(Shell& shell) {
-  const std::optional<std::string> path = chooseOtherProject(shell.program);
+  const std::optional<std::string> path = ChooseProjectFile(shell.program, message::kImportTitle);
   if (path) FreightImport(shell.program, path->c_str());
 }
 

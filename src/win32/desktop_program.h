@@ -23,9 +23,6 @@ class DesktopProgram {
   // Shows the main window until it is closed; false when it can't be shown.
   bool run();
 
-  [[nodiscard]] Program& program() { return program_; }
-  [[nodiscard]] Shell& shell() { return shell_; }
-
  private:
   Win32Screen screen_;
   ShellView view_;
