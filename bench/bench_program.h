@@ -6,12 +6,12 @@
 #include <string>
 
 #include "bench/made_project.h"
-#include "core/fixed_clock.h"
-#include "core/process_clipboard.h"
-#include "core/program.h"
-#include "core/start_up.h"
-#include "persist/project_load.h"
-#include "persist/project_save.h"
+#include "core/program/fixed_clock.h"
+#include "core/program/process_clipboard.h"
+#include "core/program/program.h"
+#include "core/program/start_up.h"
+#include "persist/project/project_load.h"
+#include "persist/project/project_save.h"
 #include "posix/posix_files.h"
 
 namespace varlo::bench {

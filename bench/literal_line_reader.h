@@ -6,7 +6,7 @@
 #include <memory>
 #include <string_view>
 
-#include "core/limits.h"
+#include "core/text/limits.h"
 #include "platform/files.h"
 
 namespace varlo::bench {

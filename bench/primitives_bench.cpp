@@ -14,8 +14,8 @@
 #include "bench/literal_line_reader.h"
 #include "bench/made_project.h"
 #include "bench/work_folder.h"
-#include "core/line_reader.h"
-#include "core/open_file.h"
+#include "core/text/line_reader.h"
+#include "core/text/open_file.h"
 #include "posix/posix_files.h"
 
 namespace varlo::bench {

@@ -17,7 +17,7 @@
 #include "bench/made_project.h"
 #include "bench/stopwatch.h"
 #include "bench/work_folder.h"
-#include "core/open_file.h"
+#include "core/text/open_file.h"
 
 namespace varlo::bench {
 namespace {

@@ -2,10 +2,10 @@
 
 #include "cli/commands.h"
 #include "cli/headless_program.h"
-#include "core/number_text.h"
-#include "core/open_file.h"
-#include "core/paths.h"
-#include "persist/backup.h"
+#include "core/text/number_text.h"
+#include "core/text/open_file.h"
+#include "core/text/paths.h"
+#include "persist/life/backup.h"
 
 namespace varlo {
 namespace {

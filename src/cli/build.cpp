@@ -1,9 +1,9 @@
 #include "cli/commands.h"
 #include "cli/console_build_window.h"
 #include "cli/headless_program.h"
-#include "generator/build_driver.h"
-#include "generator/build_target.h"
-#include "generator/generator.h"
+#include "generator/build/build_driver.h"
+#include "generator/state/build_target.h"
+#include "generator/state/generator.h"
 
 namespace varlo {
 namespace {

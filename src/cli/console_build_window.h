@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "generator/build_log.h"
+#include "generator/state/build_log.h"
 
 namespace varlo {
 

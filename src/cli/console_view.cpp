@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "core/messages.h"
-#include "core/program.h"
+#include "core/program/messages.h"
+#include "core/program/program.h"
 
 namespace varlo {
 

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "core/view.h"
+#include "core/program/view.h"
 #include "platform/machine.h"
 
 namespace varlo {

@@ -7,11 +7,11 @@
 #include "cli/commands.h"
 #include "cli/guarded_files.h"
 #include "cli/headless_program.h"
-#include "core/card_entry.h"
-#include "core/charset.h"
-#include "core/scheme.h"
-#include "core/store_tree.h"
-#include "core/user_variable.h"
+#include "core/program/scheme.h"
+#include "core/store/card_entry.h"
+#include "core/store/user_variable.h"
+#include "core/text/charset.h"
+#include "core/tree/store_tree.h"
 
 namespace varlo {
 namespace {

@@ -1,6 +1,6 @@
 #include "cli/find_page.h"
 
-#include "core/store_tree.h"
+#include "core/tree/store_tree.h"
 
 namespace varlo {
 

@@ -4,7 +4,7 @@
 #include "cli/guarded_files.h"
 #include "cli/headless_program.h"
 #include "commerce/freight_expression.h"
-#include "core/working_text.h"
+#include "core/text/working_text.h"
 
 namespace varlo {
 

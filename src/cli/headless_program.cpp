@@ -1,9 +1,9 @@
 #include "cli/headless_program.h"
 
-#include "core/start_up.h"
-#include "persist/file_steps.h"
-#include "persist/project_load.h"
-#include "persist/project_paths.h"
+#include "core/program/start_up.h"
+#include "persist/life/file_steps.h"
+#include "persist/project/project_load.h"
+#include "persist/project/project_paths.h"
 
 namespace varlo {
 

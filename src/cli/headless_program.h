@@ -5,7 +5,7 @@
 
 #include "cli/console_screen.h"
 #include "cli/console_view.h"
-#include "core/program.h"
+#include "core/program/program.h"
 #include "platform/machine.h"
 
 namespace varlo {

@@ -8,7 +8,7 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/commands.h"
-#include "core/fixed_clock.h"
+#include "core/program/fixed_clock.h"
 
 namespace varlo {
 namespace {

@@ -1,9 +1,9 @@
 #include "cli/commands.h"
 #include "cli/find_page.h"
 #include "cli/headless_program.h"
-#include "persist/backup.h"
-#include "persist/project_merge.h"
-#include "persist/project_save.h"
+#include "persist/life/backup.h"
+#include "persist/project/project_merge.h"
+#include "persist/project/project_save.h"
 
 namespace varlo {
 namespace {

@@ -2,10 +2,10 @@
 
 #include "cli/commands.h"
 #include "cli/headless_program.h"
-#include "core/charset.h"
-#include "core/open_file.h"
-#include "core/scheme.h"
-#include "persist/project_life.h"
+#include "core/program/scheme.h"
+#include "core/text/charset.h"
+#include "core/text/open_file.h"
+#include "persist/life/project_life.h"
 
 namespace varlo {
 namespace {

@@ -3,11 +3,11 @@
 #include "cli/commands.h"
 #include "cli/find_page.h"
 #include "cli/headless_program.h"
-#include "core/messages.h"
-#include "core/scheme.h"
-#include "generator/generator.h"
-#include "generator/preview_page.h"
-#include "persist/project_life.h"
+#include "core/program/messages.h"
+#include "core/program/scheme.h"
+#include "generator/build/preview_page.h"
+#include "generator/state/generator.h"
+#include "persist/life/project_life.h"
 
 namespace varlo {
 namespace {

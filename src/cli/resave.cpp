@@ -1,7 +1,7 @@
 #include "cli/commands.h"
 #include "cli/guarded_files.h"
 #include "cli/headless_program.h"
-#include "persist/project_save.h"
+#include "persist/project/project_save.h"
 
 namespace varlo {
 namespace {

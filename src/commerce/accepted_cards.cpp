@@ -1,7 +1,7 @@
 #include "commerce/accepted_cards.h"
 
-#include "core/program.h"
-#include "core/record.h"
+#include "core/program/program.h"
+#include "core/store/record.h"
 
 namespace varlo {
 namespace {

@@ -1,7 +1,7 @@
 // Moving payment cards between the catalogue of the installation and those that the store accepts.
 #pragma once
 
-#include "core/card_entry.h"
+#include "core/store/card_entry.h"
 
 namespace varlo {
 

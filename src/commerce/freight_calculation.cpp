@@ -1,6 +1,6 @@
 #include "commerce/freight_calculation.h"
 
-#include "core/store_project.h"
+#include "core/store/store_project.h"
 
 namespace varlo {
 namespace {

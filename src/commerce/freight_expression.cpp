@@ -6,9 +6,9 @@
 #include <unordered_map>
 #include <vector>
 
-#include "core/store_project.h"
-#include "core/text_edit.h"
-#include "core/working_text.h"
+#include "core/store/store_project.h"
+#include "core/text/text_edit.h"
+#include "core/text/working_text.h"
 
 namespace varlo {
 namespace {

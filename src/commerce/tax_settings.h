@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "core/freight_record.h"
+#include "core/store/freight_record.h"
 
 namespace varlo {
 

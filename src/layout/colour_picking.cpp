@@ -1,7 +1,7 @@
 #include "layout/colour_picking.h"
 
-#include "core/program.h"
-#include "core/text_search.h"
+#include "core/program/program.h"
+#include "core/text/text_search.h"
 #include "layout/named_colours.h"
 #include "layout/swatch.h"
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-#include "core/scheme.h"
+#include "core/program/scheme.h"
 #include "layout/colour_value.h"
 #include "platform/dialog.h"
 

@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "core/number_text.h"
-#include "core/text_edit.h"
+#include "core/text/number_text.h"
+#include "core/text/text_edit.h"
 
 namespace varlo {
 namespace {

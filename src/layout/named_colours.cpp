@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/text_search.h"
+#include "core/text/text_search.h"
 #include "layout/named_colour_table.h"
 
 namespace varlo {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/number_text.h"
+#include "core/text/number_text.h"
 #include "layout/named_colours.h"
 
 namespace varlo {

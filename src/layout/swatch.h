@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <optional>
 
-#include "core/scheme.h"
+#include "core/program/scheme.h"
 #include "layout/colour_value.h"
 
 namespace varlo {

@@ -1,6 +1,6 @@
 #include "posix/file_mask.h"
 
-#include "core/charset.h"
+#include "core/text/charset.h"
 
 namespace varlo {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <dirent.h>
 
-#include "core/charset.h"
+#include "core/text/charset.h"
 
 namespace varlo {
 namespace {

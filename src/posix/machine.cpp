@@ -4,8 +4,8 @@
 
 #include <utility>
 
-#include "core/charset.h"
-#include "core/process_clipboard.h"
+#include "core/program/process_clipboard.h"
+#include "core/text/charset.h"
 #include "posix/posix_browser.h"
 #include "posix/posix_clock.h"
 #include "posix/posix_files.h"

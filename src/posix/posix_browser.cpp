@@ -5,8 +5,8 @@
 
 #include <array>
 
-#include "core/charset.h"
-#include "core/open_file.h"
+#include "core/text/charset.h"
+#include "core/text/open_file.h"
 #include "posix/posix_files.h"
 
 namespace varlo {

@@ -11,8 +11,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "core/charset.h"
-#include "core/open_file.h"
+#include "core/text/charset.h"
+#include "core/text/open_file.h"
 #include "posix/file_mask.h"
 
 namespace varlo {

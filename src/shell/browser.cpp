@@ -4,9 +4,9 @@
 #include <memory>
 #include <string>
 
-#include "core/messages.h"
-#include "core/open_file.h"
-#include "core/program.h"
+#include "core/program/messages.h"
+#include "core/program/program.h"
+#include "core/text/open_file.h"
 #include "shell/guards.h"
 #include "shell/shell.h"
 

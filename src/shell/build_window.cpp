@@ -1,7 +1,7 @@
 #include "shell/build_window.h"
 
-#include "core/program.h"
-#include "generator/store_build_dialog.h"
+#include "core/program/program.h"
+#include "generator/build/store_build_dialog.h"
 #include "platform/control_ids.h"
 #include "shell/commands.h"
 #include "shell/shell.h"

@@ -1,8 +1,8 @@
 #include "shell/command_states.h"
 
-#include "core/program.h"
-#include "core/scheme.h"
-#include "core/store_tree.h"
+#include "core/program/program.h"
+#include "core/program/scheme.h"
+#include "core/tree/store_tree.h"
 
 namespace varlo {
 namespace {

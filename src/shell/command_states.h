@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "core/store_node.h"
+#include "core/store/store_node.h"
 #include "shell/focus_commands.h"
 #include "shell/shell.h"
 

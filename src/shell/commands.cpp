@@ -4,13 +4,13 @@
 #include <optional>
 #include <string>
 
-#include "core/messages.h"
-#include "core/program.h"
-#include "persist/preferences_dialog.h"
-#include "persist/project_life.h"
-#include "persist/project_merge.h"
-#include "persist/restore_dialog.h"
-#include "persist/save_as_dialog.h"
+#include "core/program/messages.h"
+#include "core/program/program.h"
+#include "persist/dialogs/preferences_dialog.h"
+#include "persist/dialogs/restore_dialog.h"
+#include "persist/dialogs/save_as_dialog.h"
+#include "persist/life/project_life.h"
+#include "persist/project/project_merge.h"
 #include "platform/control_ids.h"
 #include "shell/browser.h"
 #include "shell/build_window.h"

@@ -1,4 +1,4 @@
-#include "core/program.h"
+#include "core/program/program.h"
 #include "platform/control_ids.h"
 #include "shell/commands.h"
 #include "shell/form.h"

@@ -1,6 +1,6 @@
 #include "shell/focus_commands.h"
 
-#include "core/program.h"
+#include "core/program/program.h"
 #include "platform/control_ids.h"
 #include "shell/item_list.h"
 #include "shell/node_changes.h"

@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
-#include "core/field_text.h"
-#include "core/program.h"
-#include "core/store_tree.h"
-#include "core/text_edit.h"
+#include "core/program/field_text.h"
+#include "core/program/program.h"
+#include "core/text/text_edit.h"
+#include "core/tree/store_tree.h"
 #include "shell/command_states.h"
 #include "shell/form_fields.h"
 #include "shell/shell.h"

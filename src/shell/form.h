@@ -2,7 +2,7 @@
 // reaches the model at once.
 #pragma once
 
-#include "core/store_node.h"
+#include "core/store/store_node.h"
 #include "platform/dialog.h"
 
 namespace varlo {

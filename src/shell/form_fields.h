@@ -4,7 +4,7 @@
 #include <array>
 #include <cstddef>
 
-#include "core/store_node.h"
+#include "core/store/store_node.h"
 #include "platform/control_ids.h"
 
 namespace varlo {

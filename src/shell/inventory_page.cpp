@@ -3,11 +3,11 @@
 #include <optional>
 #include <string>
 
-#include "core/field_text.h"
-#include "core/messages.h"
-#include "core/paths.h"
-#include "core/program.h"
-#include "core/text_search.h"
+#include "core/program/field_text.h"
+#include "core/program/messages.h"
+#include "core/program/program.h"
+#include "core/text/paths.h"
+#include "core/text/text_search.h"
 #include "platform/control_ids.h"
 #include "shell/browser.h"
 #include "shell/commands.h"

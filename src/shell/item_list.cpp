@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "core/store_node.h"
-#include "core/text_edit.h"
-#include "generator/html_text.h"
+#include "core/store/store_node.h"
+#include "core/text/text_edit.h"
+#include "generator/items/html_text.h"
 #include "shell/guards.h"
 #include "shell/shell.h"
 

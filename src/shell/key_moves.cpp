@@ -1,5 +1,5 @@
-#include "core/program.h"
-#include "core/store_tree.h"
+#include "core/program/program.h"
+#include "core/tree/store_tree.h"
 #include "shell/guards.h"
 #include "shell/node_moves.h"
 #include "shell/shell.h"

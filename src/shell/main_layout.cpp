@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "core/messages.h"
-#include "core/program.h"
+#include "core/program/messages.h"
+#include "core/program/program.h"
 #include "platform/control_ids.h"
 #include "shell/shell.h"
 

@@ -2,10 +2,10 @@
 
 #include <array>
 
-#include "core/program.h"
-#include "core/start_up.h"
-#include "persist/file_steps.h"
-#include "persist/project_load.h"
+#include "core/program/program.h"
+#include "core/program/start_up.h"
+#include "persist/life/file_steps.h"
+#include "persist/project/project_load.h"
 #include "shell/command_states.h"
 #include "shell/form.h"
 #include "shell/item_list.h"

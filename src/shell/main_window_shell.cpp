@@ -1,6 +1,6 @@
 #include "shell/main_window_shell.h"
 
-#include "core/program.h"
+#include "core/program/program.h"
 #include "shell/command_states.h"
 #include "shell/commands.h"
 #include "shell/item_list.h"

@@ -1,9 +1,9 @@
 #include "shell/node_changes.h"
 
-#include "core/messages.h"
-#include "core/node_commands.h"
-#include "core/program.h"
-#include "core/store_tree.h"
+#include "core/program/messages.h"
+#include "core/program/program.h"
+#include "core/tree/node_commands.h"
+#include "core/tree/store_tree.h"
 #include "shell/command_states.h"
 #include "shell/form.h"
 #include "shell/guards.h"

@@ -1,7 +1,7 @@
 // The commands that make, copy, delete and disable nodes, with what they change on the screen.
 #pragma once
 
-#include "core/store_node.h"
+#include "core/store/store_node.h"
 
 namespace varlo {
 

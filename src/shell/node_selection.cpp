@@ -1,6 +1,6 @@
 #include "shell/node_selection.h"
 
-#include "core/program.h"
+#include "core/program/program.h"
 #include "platform/control_ids.h"
 #include "shell/command_states.h"
 #include "shell/commands.h"

@@ -2,8 +2,8 @@
 
 #include <initializer_list>
 
-#include "core/program.h"
-#include "core/store_tree.h"
+#include "core/program/program.h"
+#include "core/tree/store_tree.h"
 #include "shell/commands.h"
 #include "shell/shell.h"
 

@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "core/program.h"
-#include "core/store_tree.h"
-#include "generator/first_build_dialog.h"
-#include "generator/preview_page.h"
-#include "persist/template_set.h"
+#include "core/program/program.h"
+#include "core/tree/store_tree.h"
+#include "generator/build/first_build_dialog.h"
+#include "generator/build/preview_page.h"
+#include "persist/life/template_set.h"
 #include "platform/control_ids.h"
 #include "shell/browser.h"
 #include "shell/commands.h"

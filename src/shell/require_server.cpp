@@ -1,5 +1,5 @@
-#include "core/messages.h"
-#include "core/program.h"
+#include "core/program/messages.h"
+#include "core/program/program.h"
 #include "shell/commands.h"
 #include "shell/shell.h"
 

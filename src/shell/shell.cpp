@@ -1,7 +1,7 @@
 #include "shell/shell.h"
 
-#include "core/program.h"
-#include "generator/store_build_dialog.h"
+#include "core/program/program.h"
+#include "generator/build/store_build_dialog.h"
 
 namespace varlo {
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "generator/generator.h"
+#include "generator/state/generator.h"
 #include "platform/browser_system.h"
 #include "platform/main_window.h"
 

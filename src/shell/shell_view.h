@@ -1,7 +1,7 @@
 // ShellView: what the model tells the screen, shown in the main window.
 #pragma once
 
-#include "core/view.h"
+#include "core/program/view.h"
 
 namespace varlo {
 

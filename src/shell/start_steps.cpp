@@ -1,6 +1,6 @@
 #include "shell/start_steps.h"
 
-#include "persist/file_steps.h"
+#include "persist/life/file_steps.h"
 #include "shell/browser.h"
 
 namespace varlo {

@@ -1,7 +1,7 @@
 // What the desktop program runs at its start.
 #pragma once
 
-#include "core/start_up.h"
+#include "core/program/start_up.h"
 
 namespace varlo {
 

@@ -1,6 +1,6 @@
 #include "shell/tab_switch.h"
 
-#include "core/program.h"
+#include "core/program/program.h"
 #include "shell/command_states.h"
 #include "shell/main_layout.h"
 #include "shell/pages.h"

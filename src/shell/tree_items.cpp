@@ -3,9 +3,9 @@
 #include <array>
 #include <vector>
 
-#include "core/program.h"
-#include "core/store_tree.h"
-#include "generator/html_text.h"
+#include "core/program/program.h"
+#include "core/tree/store_tree.h"
+#include "generator/items/html_text.h"
 #include "shell/commands.h"
 #include "shell/guards.h"
 #include "shell/item_list.h"

@@ -1,9 +1,9 @@
 #include "shell/upgrade.h"
 
-#include "core/messages.h"
-#include "core/open_file.h"
-#include "core/program.h"
-#include "core/start_up.h"
+#include "core/program/messages.h"
+#include "core/program/program.h"
+#include "core/program/start_up.h"
+#include "core/text/open_file.h"
 #include "shell/browser.h"
 #include "shell/commands.h"
 #include "shell/shell.h"

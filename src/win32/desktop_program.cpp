@@ -1,6 +1,6 @@
 #include "win32/desktop_program.h"
 
-#include "core/start_up.h"
+#include "core/program/start_up.h"
 #include "shell/start_steps.h"
 #include "win32/main_window.h"
 

@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-#include "core/program.h"
+#include "core/program/program.h"
 #include "platform/machine.h"
 #include "shell/main_window_shell.h"
 #include "shell/shell.h"

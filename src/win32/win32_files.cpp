@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 
-#include "core/charset.h"
+#include "core/text/charset.h"
 
 namespace varlo {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/record.h"
+#include "core/store/record.h"
 #include "tests/support/test_program.h"
 
 namespace varlo {

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/working_text.h"
+#include "core/text/working_text.h"
 #include "tests/support/freight.h"
 #include "tests/support/test_program.h"
 

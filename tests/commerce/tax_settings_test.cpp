@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/record.h"
+#include "core/store/record.h"
 
 namespace varlo {
 namespace {

@@ -9,7 +9,7 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "core/fixed_clock.h"
+#include "core/program/fixed_clock.h"
 #include "platform/control_ids.h"
 #include "tests/support/test_program.h"
 #include "win32/desktop_program.h"

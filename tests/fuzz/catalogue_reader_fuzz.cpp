@@ -5,9 +5,9 @@
 #include <cstdlib>
 #include <string>
 
-#include "core/scheme.h"
-#include "core/string_item.h"
-#include "persist/scheme_catalogue.h"
+#include "core/program/scheme.h"
+#include "core/store/string_item.h"
+#include "persist/installation/scheme_catalogue.h"
 #include "tests/support/test_program.h"
 
 namespace {

@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "persist/config_file.h"
-#include "persist/scheme_catalogue.h"
+#include "persist/installation/config_file.h"
+#include "persist/installation/scheme_catalogue.h"
 #include "tests/support/test_program.h"
 
 namespace {

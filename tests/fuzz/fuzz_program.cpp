@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <array>
 
-#include "core/project_close.h"
-#include "core/store_tree.h"
-#include "core/store_tree_check.h"
-#include "persist/project_load.h"
-#include "persist/project_merge.h"
-#include "persist/project_save.h"
+#include "core/program/project_close.h"
+#include "core/tree/store_tree.h"
+#include "core/tree/store_tree_check.h"
+#include "persist/project/project_load.h"
+#include "persist/project/project_merge.h"
+#include "persist/project/project_save.h"
 #include "tests/fuzz/plain_writer.h"
 #include "tests/fuzz/snapshot.h"
 

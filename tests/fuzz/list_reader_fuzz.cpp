@@ -6,12 +6,12 @@
 #include <set>
 #include <string>
 
-#include "core/card_entry.h"
-#include "core/freight_record.h"
-#include "core/text_edit.h"
-#include "persist/file_name_set.h"
-#include "persist/list_files.h"
-#include "persist/scheme_catalogue.h"
+#include "core/store/card_entry.h"
+#include "core/store/freight_record.h"
+#include "core/text/text_edit.h"
+#include "persist/installation/list_files.h"
+#include "persist/installation/scheme_catalogue.h"
+#include "persist/project/file_name_set.h"
 #include "tests/support/test_program.h"
 
 namespace {

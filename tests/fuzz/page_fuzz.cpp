@@ -17,12 +17,12 @@
 #include <string_view>
 #include <vector>
 
-#include "core/scheme.h"
-#include "core/store_tree.h"
-#include "core/user_variable.h"
-#include "generator/generator.h"
-#include "generator/page_walk.h"
-#include "generator/user_variables.h"
+#include "core/program/scheme.h"
+#include "core/store/user_variable.h"
+#include "core/tree/store_tree.h"
+#include "generator/build/user_variables.h"
+#include "generator/pages/page_walk.h"
+#include "generator/state/generator.h"
 #include "tests/fuzz/plain_project.h"
 #include "tests/support/test_program.h"
 

@@ -2,12 +2,12 @@
 
 #include <unordered_map>
 
-#include "core/card_entry.h"
-#include "core/program.h"
-#include "core/record.h"
-#include "core/scheme.h"
-#include "core/store_tree.h"
-#include "core/user_variable.h"
+#include "core/program/program.h"
+#include "core/program/scheme.h"
+#include "core/store/card_entry.h"
+#include "core/store/record.h"
+#include "core/store/user_variable.h"
+#include "core/tree/store_tree.h"
 
 namespace varlo::fuzz {
 namespace {

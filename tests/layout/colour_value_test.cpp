@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "core/number_text.h"
+#include "core/text/number_text.h"
 #include "layout/named_colours.h"
 
 namespace varlo {

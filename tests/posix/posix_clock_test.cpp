@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/number_text.h"
+#include "core/text/number_text.h"
 
 namespace varlo {
 namespace {

@@ -11,7 +11,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/open_file.h"
+#include "core/text/open_file.h"
 
 namespace varlo {
 namespace {

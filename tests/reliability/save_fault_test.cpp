@@ -8,10 +8,10 @@
 
 #include <gtest/gtest.h>
 
-#include "core/fixed_clock.h"
-#include "core/process_clipboard.h"
-#include "core/text_search.h"
-#include "persist/project_load.h"
+#include "core/program/fixed_clock.h"
+#include "core/program/process_clipboard.h"
+#include "core/text/text_search.h"
+#include "persist/project/project_load.h"
 #include "tests/reliability/saved_shop.h"
 #include "tests/support/failing_files.h"
 #include "tests/support/test_program.h"

@@ -12,9 +12,9 @@
 
 #include <gtest/gtest.h>
 
-#include "core/fixed_clock.h"
-#include "core/process_clipboard.h"
-#include "persist/project_load.h"
+#include "core/program/fixed_clock.h"
+#include "core/program/process_clipboard.h"
+#include "persist/project/project_load.h"
 #include "posix/posix_files.h"
 #include "tests/reliability/saved_shop.h"
 #include "tests/support/failing_files.h"

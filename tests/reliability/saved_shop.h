@@ -3,10 +3,10 @@
 
 #include <string>
 
-#include "core/program.h"
-#include "core/record.h"
-#include "core/scheme.h"
-#include "persist/project_life.h"
+#include "core/program/program.h"
+#include "core/program/scheme.h"
+#include "core/store/record.h"
+#include "persist/life/project_life.h"
 #include "tests/support/tree.h"
 
 namespace varlo::test {

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "generator/store_build_dialog.h"
+#include "generator/build/store_build_dialog.h"
 #include "platform/control_ids.h"
 #include "shell/commands.h"
 #include "tests/support/test_shell.h"

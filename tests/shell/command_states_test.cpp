@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "core/scheme.h"
-#include "core/user_variable.h"
+#include "core/program/scheme.h"
+#include "core/store/user_variable.h"
 #include "platform/control_ids.h"
 #include "tests/support/page_stand_in.h"
 #include "tests/support/test_shell.h"

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/freight_record.h"
+#include "core/store/freight_record.h"
 #include "platform/control_ids.h"
 #include "tests/support/page_stand_in.h"
 #include "tests/support/test_shell.h"

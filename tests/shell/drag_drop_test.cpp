@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "core/project_close.h"
+#include "core/program/project_close.h"
 #include "shell/node_changes.h"
 #include "shell/node_moves.h"
 #include "tests/support/shown_store.h"

@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "core/limits.h"
+#include "core/text/limits.h"
 #include "shell/form_fields.h"
 #include "tests/support/test_form.h"
 #include "tests/support/test_shell.h"

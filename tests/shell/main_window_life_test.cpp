@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "core/messages.h"
-#include "persist/file_steps.h"
+#include "core/program/messages.h"
+#include "persist/life/file_steps.h"
 #include "platform/control_ids.h"
 #include "shell/commands.h"
 #include "shell/toolbar.h"

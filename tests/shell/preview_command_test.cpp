@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "generator/first_build_dialog.h"
+#include "generator/build/first_build_dialog.h"
 #include "platform/control_ids.h"
 #include "shell/shell.h"
 #include "tests/support/fake_browsers.h"

@@ -8,8 +8,8 @@
 
 #include <gtest/gtest.h>
 
-#include "core/start_up.h"
-#include "generator/html_text.h"
+#include "core/program/start_up.h"
+#include "generator/items/html_text.h"
 #include "tests/support/shell_checks.h"
 #include "tests/support/shown_store.h"
 

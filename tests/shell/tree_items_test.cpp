@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "core/node_commands.h"
-#include "core/project_close.h"
+#include "core/program/project_close.h"
+#include "core/tree/node_commands.h"
 #include "tests/support/shown_store.h"
 
 namespace varlo::test {

@@ -1,7 +1,7 @@
 #!/bin/sh
 # check_includes.sh SOURCE_FOLDER: reads every #include below the folder and fails, with a line for
 # each offence, where one goes against the architecture:
-#   - arrows between folders point down only (the levels stand below),
+#   - arrows between folders, and between the rooms of a folder, point down only (the levels stand below),
 #   - headers of Windows are used in win32/ only, headers of POSIX in posix/ only.
 set -eu
 export LC_ALL=C
@@ -17,6 +17,11 @@ BEGIN {
   level["shell"] = 5
   level["win32"] = level["posix"] = level["cli"] = 6
 
+  # The rooms of a folder, from the ground up. Such a folder has no files outside of its rooms.
+  rooms("core", "text store program tree")
+  rooms("persist", "installation project life dialogs")
+  rooms("generator", "state items template pages cart build")
+
   # Compared in lower case: Windows does not mind the case of a name.
   windows = "^((win|shl|ole|com|msg|dde|rich)[a-z0-9]*|windowsx|winsock2?|ws2tcpip|shellapi|prsht|dlgs|cderr" \
             "|commctrl|commdlg|objbase|unknwn|oaidl|uxtheme|versionhelpers|tchar|io|direct|conio|process" \
@@ -31,6 +36,19 @@ BEGIN {
 function fail(file, header, why) {
   print file " includes " header ": " why
   failures++
+}
+
+function rooms(folder, names,   list, count, i) {
+  count = split(names, list, " ")
+  for (i = 1; i <= count; i++) room_level[folder "/" list[i]] = i
+  has_rooms[folder] = 1
+}
+
+# The room in which a file lies, as "core/text"; "" where its folder has none.
+function room(path,   parts) {
+  if (!(top(path) in has_rooms)) return ""
+  if (split(path, parts, "/") < 3) return top(path) "/"
+  return parts[1] "/" parts[2]
 }
 
 function top(path) { return index(path, "/") ? substr(path, 1, index(path, "/") - 1) : "" }
@@ -58,6 +76,8 @@ function check(file, header,   from, to, path) {
   if (path != "") {
     to = top(path)
     if (to != from && level[to] >= level[from]) fail(file, header, from " may not use " to)
+    if (to == from && room(path) != room(file) && room_level[room(path)] >= room_level[room(file)])
+      fail(file, header, room(file) " may not use " room(path))
   } else if (tolower(header) ~ windows) {
     if (from != "win32") fail(file, header, "only win32 may use Windows")
   } else if (header ~ posix) {
@@ -77,8 +97,11 @@ function read_file(file,   line, start) {
 
 END {
   for (i = 1; i <= count; i++) {
-    if (top(files[i]) in level) read_file(files[i])
-    else { print files[i] " lies in no folder of the architecture"; failures++ }
+    if (!(top(files[i]) in level)) { print files[i] " lies in no folder of the architecture"; failures++ }
+    else if (room(files[i]) != "" && !(room(files[i]) in room_level)) {
+      print files[i] " lies in no room of " top(files[i])
+      failures++
+    } else read_file(files[i])
   }
   if (count == 0) { print "no sources found"; failures++ }
   exit failures > 0

@@ -10,8 +10,9 @@ failures=0
 # include FILE LINE: the tree becomes this file, with this line, beside a header in each folder.
 include() {
   rm -rf -- "${tree:?}"/*
-  for folder in platform core persist layout commerce import generator shell win32 posix cli; do
-    mkdir "$tree/$folder"
+  for folder in platform core/text core/store persist/project layout commerce import generator/items shell win32 posix \
+    cli; do
+    mkdir -p "$tree/$folder"
     echo '#pragma once' >"$tree/$folder/thing.h"
   done
   mkdir -p -- "$tree/$(dirname -- "$1")"
@@ -35,45 +36,51 @@ accepts() {
 }
 
 # Upwards.
-refuses core/a.cpp '#include "persist/thing.h"' 'core/a.cpp includes persist/thing.h: core may not use persist'
-refuses persist/a.h '#include "shell/thing.h"' 'persist/a.h includes shell/thing.h: persist may not use shell'
-refuses persist/a.h '#include "commerce/thing.h"' \
-  'persist/a.h includes commerce/thing.h: persist may not use commerce'
-refuses layout/a.h '#include "generator/thing.h"' 'layout/a.h includes generator/thing.h: layout may not use generator'
+refuses core/text/a.cpp '#include "persist/project/thing.h"' 'core/text/a.cpp includes persist/project/thing.h: core may not use persist'
+refuses persist/project/a.h '#include "shell/thing.h"' 'persist/project/a.h includes shell/thing.h: persist may not use shell'
+refuses persist/project/a.h '#include "commerce/thing.h"' \
+  'persist/project/a.h includes commerce/thing.h: persist may not use commerce'
+refuses layout/a.h '#include "generator/items/thing.h"' 'layout/a.h includes generator/items/thing.h: layout may not use generator'
 refuses shell/a.cpp '#include "win32/thing.h"' 'shell/a.cpp includes win32/thing.h: shell may not use win32'
-refuses platform/a.h '#include "core/thing.h"' 'platform/a.h includes core/thing.h: platform may not use core'
+refuses platform/a.h '#include "core/text/thing.h"' 'platform/a.h includes core/text/thing.h: platform may not use core'
 # Sideways.
-refuses import/a.cpp '#include "generator/thing.h"' \
-  'import/a.cpp includes generator/thing.h: import may not use generator'
+refuses import/a.cpp '#include "generator/items/thing.h"' \
+  'import/a.cpp includes generator/items/thing.h: import may not use generator'
 refuses layout/a.cpp '#include "commerce/thing.h"' 'layout/a.cpp includes commerce/thing.h: layout may not use commerce'
 refuses cli/a.cpp '#include "posix/thing.h"' 'cli/a.cpp includes posix/thing.h: cli may not use posix'
 # Other ways of writing the same.
-refuses core/a.cpp '  #  include <persist/thing.h>' 'core/a.cpp includes persist/thing.h: core may not use persist'
-refuses core/a.cpp '#include "../persist/thing.h"' 'core/a.cpp includes ../persist/thing.h: core may not use persist'
-refuses core/deep/a.cpp '#include "../../persist/./thing.h"' \
-  'core/deep/a.cpp includes ../../persist/./thing.h: core may not use persist'
-refuses core/a.cpp '#include "persist/not_made_yet.h"' \
-  'core/a.cpp includes persist/not_made_yet.h: core may not use persist'
-refuses core/a.cpp '#include HEADER' \
-  'core/a.cpp includes #include HEADER: the name of the header must be written out'
+refuses core/text/a.cpp '  #  include <persist/project/thing.h>' 'core/text/a.cpp includes persist/project/thing.h: core may not use persist'
+refuses core/text/a.cpp '#include "../../persist/project/thing.h"' 'core/text/a.cpp includes ../../persist/project/thing.h: core may not use persist'
+refuses core/text/a.cpp '#include "../../persist/project/./thing.h"' \
+  'core/text/a.cpp includes ../../persist/project/./thing.h: core may not use persist'
+refuses core/text/a.cpp '#include "persist/project/not_made_yet.h"' \
+  'core/text/a.cpp includes persist/project/not_made_yet.h: core may not use persist'
+refuses core/text/a.cpp '#include HEADER' \
+  'core/text/a.cpp includes #include HEADER: the name of the header must be written out'
 # The machine.
-refuses core/a.cpp '#include <windows.h>' 'core/a.cpp includes windows.h: only win32 may use Windows'
+refuses core/text/a.cpp '#include <windows.h>' 'core/text/a.cpp includes windows.h: only win32 may use Windows'
 refuses shell/a.cpp '#include <Windows.h>' 'shell/a.cpp includes Windows.h: only win32 may use Windows'
 refuses posix/a.cpp '#include <shellapi.h>' 'posix/a.cpp includes shellapi.h: only win32 may use Windows'
-refuses core/a.cpp '#include <unistd.h>' 'core/a.cpp includes unistd.h: only posix may use POSIX'
+refuses core/text/a.cpp '#include <unistd.h>' 'core/text/a.cpp includes unistd.h: only posix may use POSIX'
 refuses cli/a.cpp '#include <sys/stat.h>' 'cli/a.cpp includes sys/stat.h: only posix may use POSIX'
 refuses win32/a.cpp '#include <dirent.h>' 'win32/a.cpp includes dirent.h: only posix may use POSIX'
+# Between the rooms of a folder.
+refuses core/text/a.cpp '#include "core/store/thing.h"' \
+  'core/text/a.cpp includes core/store/thing.h: core/text may not use core/store'
+refuses core/a.cpp '#include <string>' 'core/a.cpp lies in no room of core'
+refuses core/attic/a.cpp '#include <string>' 'core/attic/a.cpp lies in no room of core'
 # A folder that nobody has placed.
 refuses utilities/a.cpp '#include <string>' 'utilities/a.cpp lies in no folder of the architecture'
 
-accepts core/a.cpp '#include "platform/thing.h"'
-accepts core/a.cpp '#include "core/thing.h"'
-accepts core/a.cpp '#include "thing.h"'
-accepts core/a.cpp '#include <string>'
-accepts core/a.cpp '#include <time.h>'
-accepts core/a.cpp '// #include "shell/thing.h"'
-accepts layout/a.cpp '#include "persist/thing.h"'
-accepts shell/a.cpp '#include "generator/thing.h"'
+accepts core/text/a.cpp '#include "platform/thing.h"'
+accepts core/text/a.cpp '#include "core/text/thing.h"'
+accepts core/store/a.cpp '#include "core/text/thing.h"'
+accepts core/text/a.cpp '#include "thing.h"'
+accepts core/text/a.cpp '#include <string>'
+accepts core/text/a.cpp '#include <time.h>'
+accepts core/text/a.cpp '// #include "shell/thing.h"'
+accepts layout/a.cpp '#include "persist/project/thing.h"'
+accepts shell/a.cpp '#include "generator/items/thing.h"'
 accepts win32/a.cpp '#include <windows.h>'
 accepts win32/a.cpp '#include "shell/thing.h"'
 accepts posix/a.cpp '#include <sys/stat.h>'

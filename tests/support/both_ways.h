@@ -8,11 +8,11 @@
 
 #include <gmock/gmock.h>
 
-#include "generator/fill_plan.h"
-#include "generator/plain_page.h"
-#include "generator/prepared_text.h"
-#include "generator/quick_page.h"
-#include "generator/substitute_item.h"
+#include "generator/template/fill_plan.h"
+#include "generator/template/plain_page.h"
+#include "generator/template/prepared_text.h"
+#include "generator/template/quick_page.h"
+#include "generator/template/substitute_item.h"
 #include "tests/support/test_shop.h"
 
 namespace varlo::test {

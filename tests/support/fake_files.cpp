@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
-#include "core/charset.h"
-#include "core/paths.h"
+#include "core/text/charset.h"
+#include "core/text/paths.h"
 
 namespace varlo::test {
 namespace {

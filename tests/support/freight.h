@@ -5,8 +5,8 @@
 #include <string_view>
 #include <utility>
 
-#include "core/record.h"
-#include "core/store_project.h"
+#include "core/store/record.h"
+#include "core/store/store_project.h"
 
 namespace varlo::test {
 

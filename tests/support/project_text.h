@@ -4,11 +4,11 @@
 #include <string>
 #include <string_view>
 
-#include "core/line_reader.h"
-#include "core/open_file.h"
-#include "persist/project_load.h"
-#include "persist/project_parse.h"
-#include "persist/project_save.h"
+#include "core/text/line_reader.h"
+#include "core/text/open_file.h"
+#include "persist/project/project_load.h"
+#include "persist/project/project_parse.h"
+#include "persist/project/project_save.h"
 #include "tests/support/test_program.h"
 
 namespace varlo::test {

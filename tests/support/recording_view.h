@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "core/store_node.h"
-#include "core/view.h"
+#include "core/program/view.h"
+#include "core/store/store_node.h"
 
 namespace varlo::test {
 

@@ -1,9 +1,9 @@
 // A whole program on fakes, for tests to start from.
 #pragma once
 
-#include "core/fixed_clock.h"
-#include "core/process_clipboard.h"
-#include "core/program.h"
+#include "core/program/fixed_clock.h"
+#include "core/program/process_clipboard.h"
+#include "core/program/program.h"
 #include "tests/support/fake_files.h"
 #include "tests/support/fake_screen.h"
 #include "tests/support/recording_view.h"

@@ -3,9 +3,9 @@
 
 #include <vector>
 
-#include "core/fixed_clock.h"
-#include "core/process_clipboard.h"
-#include "core/program.h"
+#include "core/program/fixed_clock.h"
+#include "core/program/process_clipboard.h"
+#include "core/program/program.h"
 #include "shell/main_window_shell.h"
 #include "shell/shell.h"
 #include "shell/shell_view.h"

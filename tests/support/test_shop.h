@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "core/card_entry.h"
-#include "core/record.h"
-#include "core/scheme.h"
-#include "generator/generator.h"
+#include "core/program/scheme.h"
+#include "core/store/card_entry.h"
+#include "core/store/record.h"
+#include "generator/state/generator.h"
 #include "tests/support/test_program.h"
 #include "tests/support/tree.h"
 

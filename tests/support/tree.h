@@ -5,9 +5,9 @@
 
 #include <gmock/gmock.h>
 
-#include "core/store_project.h"
-#include "core/store_tree.h"
-#include "core/store_tree_check.h"
+#include "core/store/store_project.h"
+#include "core/tree/store_tree.h"
+#include "core/tree/store_tree_check.h"
 
 namespace varlo::test {
 

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/open_file.h"
+#include "core/text/open_file.h"
 #include "win32/win32_clipboard.h"
 #include "win32/win32_clock.h"
 

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/messages.h"
+#include "core/program/messages.h"
 #include "win32/task_dialog.h"
 
 namespace varlo {

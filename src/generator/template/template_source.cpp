@@ -1,0 +1,115 @@
+#include "generator/template/template_source.h"
+
+#include <algorithm>
+
+#include "core/program/program.h"
+#include "core/text/limits.h"
+#include "core/text/open_file.h"
+#include "generator/items/item_values.h"
+#include "generator/state/generator.h"
+#include "generator/template/page_marks.h"
+#include "generator/template/store_values.h"
+#include "persist/life/template_set.h"
+#include "persist/project/project_paths.h"
+
+namespace varlo {
+namespace {
+
+constexpr std::size_t kKeptTemplates = 12;
+constexpr std::size_t kReadSize = 64 * 1024;
+
+}  // namespace
+
+TemplateSource::TemplateSource(ItemValues& values)
+    : values_(values), generator_(values.generator()), plan_(generator_.program.project.variables) {}
+
+std::string TemplateSource::pathOf(const StoreNode& node) const {
+  const StoreProject& project = generator_.program.project;
+  if (generator_.useSetTemplates) return SetTemplatePath(project, node);
+  const Text& name = node.templateName;
+  return ProjectTemplatePath(project, name.isSet() ? name.view() : TraitsOf(node.kind).defaultTemplate);
+}
+
+// Puts the path at the head of the templates used lately, unless it is among them; the last one falls off.
+void TemplateSource::remember(std::string_view path) {
+  auto& names = generator_.program.project.templateNames;
+  if (std::any_of(names.begin(), names.end(), [path](const Text& name) { return name.view() == path; })) return;
+  std::move_backward(names.begin(), names.end() - 1, names.end());
+  names.front().assign(path);
+}
+
+// Reads the bytes of a file at once, into the buffer; false when it can't be opened.
+bool TemplateSource::readRaw(std::string_view path, std::string_view& raw) {
+  Files& files = generator_.program.files;
+  OpenFile file(files, files.openRead(path));
+  if (!file.isOpen()) return false;
+  std::size_t size = 0;
+  for (;;) {
+    if (buffer_.size() < size + kReadSize) buffer_.resize(size + kReadSize);
+    const std::size_t got = files.read(file.handle(), buffer_.data() + size, buffer_.size() - size);
+    size += got;
+    if (size < buffer_.size()) break;
+  }
+  raw = std::string_view(buffer_).substr(0, size);
+  return true;
+}
+
+const PageTemplate* TemplateSource::read(const StoreNode& node) {
+  const std::string path = pathOf(node);
+  const bool isShelf = IsShelfOrList(node);
+  TextSlot& slot = generator_.program.slots[kSlotTemplate];
+  std::string_view raw;
+  const bool opened = readRaw(path, raw);
+  if (!generator_.useSetTemplates) remember(path);
+  const auto same = std::find_if(kept_.begin(), kept_.end(), [&](const Kept& kept) {
+    return kept.isShelf == isShelf && kept.path == path && !kept.raw.empty() && kept.raw == raw;
+  });
+  if (opened && same != kept_.end() && slot.hold(same->text)) {
+    kept_.splice(kept_.begin(), kept_, same);
+    return &same->page;
+  }
+  FileReadToSlot(generator_.program, kSlotTemplate, path, true);
+  if (!slot.hasMemory()) return nullptr;
+  Kept& kept = keep(path, isShelf, slot.text());
+  // A file without a line leaves the slot as it was, so its bytes do not tell what the slot holds.
+  if (opened && slot.length() > 0) kept.raw = raw;
+  return &kept.page;
+}
+
+// The prepared template of a text, made now unless the same text was met before.
+TemplateSource::Kept& TemplateSource::keep(std::string_view path, bool isShelf, std::string_view text) {
+  const auto same = std::find_if(kept_.begin(), kept_.end(), [&](const Kept& kept) {
+    return kept.isShelf == isShelf && kept.path == path && kept.text == text;
+  });
+  if (same != kept_.end()) {
+    kept_.splice(kept_.begin(), kept_, same);
+    return kept_.front();
+  }
+  if (kept_.size() == kKeptTemplates) kept_.pop_back();
+  Kept& kept = kept_.emplace_front();
+  kept.path = path;
+  kept.isShelf = isShelf;
+  kept.text = text;
+  prepare(kept);
+  return kept;
+}
+
+void TemplateSource::prepare(Kept& kept) {
+  PageTemplate& page = kept.page;
+  page.page = kept.text;
+  if (kept.isShelf) {
+    const ShelfBlock found = FindShelfBlock(kept.text);
+    if (!found.found) {
+      page.shelf = ShelfState::Missing;
+    } else {
+      page.shelf = found.block.size() < kShelfBlock ? ShelfState::Taken : ShelfState::TooLong;
+      if (page.shelf == ShelfState::Taken) page.block = found.block;
+      page.page.replace(found.begin, found.end - found.begin, kShelfKey);
+    }
+  }
+  if (!plan_.isQuick()) return;
+  page.preparedPage = PrepareForStore(plan_, values_, page.page);
+  if (page.shelf == ShelfState::Taken) page.preparedBlock = PrepareForStore(plan_, values_, page.block, true);
+}
+
+}  // namespace varlo

@@ -1,0 +1,59 @@
+#include "persist/dialogs/restore_dialog.h"
+
+#include <array>
+
+#include "core/program/messages.h"
+#include "core/program/program.h"
+#include "core/text/number_text.h"
+#include "platform/control_ids.h"
+
+namespace varlo {
+namespace {
+
+using control::restore::kList;
+
+constexpr std::array kColumns{ListColumn{"Backup Date/Time", 140}, ListColumn{"Size", 70}};
+
+}  // namespace
+
+void RestoreDialog::opened(Dialog& dialog) {
+  backups_ = BackupListRead(program_);
+  selectedBackup_ = nullptr;
+  dialog.setColumns(kList, kColumns);
+  dialog.setRowCount(kList, static_cast<int>(backups_.size()));
+  dialog.enable(control::kOk, false);
+}
+
+void RestoreDialog::notified(Dialog& dialog, const ControlEvent& event) {
+  if (event.control == kList && event.notice == Notice::RowSelected) select(dialog);
+  if (event.notice != Notice::Clicked) return;
+  if (event.control == control::kOk) restore(dialog);
+  if (event.control == control::kCancel) dialog.end(0);
+  if (event.control == control::kHelp) program_.view.openHelpPane(dialog::kRestore);
+}
+
+std::string RestoreDialog::cellText(ControlId /*list*/, int row, int column) {
+  const BackupEntry& backup = backups_.at(static_cast<std::size_t>(row));
+  if (column == 0) return DateToText(program_.clock, backup.time, false);
+  return IntToText(static_cast<std::int32_t>(backup.size));
+}
+
+void RestoreDialog::select(Dialog& dialog) {
+  const int row = dialog.selectedRow(kList);
+  selectedBackup_ = row == kNoRow ? nullptr : &backups_.at(static_cast<std::size_t>(row));
+  dialog.enable(control::kOk, selectedBackup_ != nullptr);
+  program_.view.showHelp(dialog::kRestore);
+}
+
+void RestoreDialog::restore(Dialog& dialog) {
+  if (selectedBackup_ == nullptr || !program_.project.projectFile.isSet()) return;
+  const Answer answer = program_.screen.messageBox({.text = message::kRestore,
+                                                    .title = message::kConfirmation,
+                                                    .buttons = Buttons::YesNoCancel,
+                                                    .icon = Icon::Question});
+  if (answer != Answer::Yes) return;
+  BackupRestore(program_, selectedBackup_->path);
+  dialog.end(1);
+}
+
+}  // namespace varlo

@@ -1,0 +1,304 @@
+// One page from its template to its file.
+#include "generator/pages/page_builder.h"
+
+#include <gtest/gtest.h>
+
+#include "core/store/user_variable.h"
+#include "generator/items/index_file.h"
+#include "generator/pages/page_walk.h"
+#include "tests/support/test_shop.h"
+
+namespace varlo {
+namespace {
+
+using namespace test;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const std::string kTemplates = "C:\\Varlo\\Projects\\Shop\\template\\";
+
+class PageBuilderTest : public testing::Test {
+ protected:
+  void put(const char* name, std::string_view text) { t.files.put(kTemplates + name, text); }
+  // The page of the home node, of this kind, from a template of this text.
+  std::string build(NodeKind kind, std::string_view text) {
+    t.home->kind = kind;
+    t.home->templateName.assign("t.htm");
+    put("t.htm", text);
+    EXPECT_EQ(BuildPage(t.generator, t.home), 1);
+    return t.site("1.htm");
+  }
+  std::string shelf(std::string_view text) { return build(NodeKind::Shelf, text); }
+  std::string category(std::string_view text) { return build(NodeKind::Category, text); }
+  StoreNode* add(const char* title) {
+    StoreNode* node = AddProduct(t.project(), title, t.home);
+    node->productCode.assign("X");
+    return node;
+  }
+
+  TestShop t;
+};
+
+// What gets no page.
+
+TEST_F(PageBuilderTest, NoNodeIsNoPage) { EXPECT_EQ(BuildPage(t.generator, nullptr), 0); }
+
+TEST_F(PageBuilderTest, AnItemOfAShelfOrAListHasNoPageNoLineAndNoProgress) {
+  put("product.htm", "x");
+  {
+    IndexFile index(t.generator);
+    for (const NodeKind kind : {NodeKind::Shelf, NodeKind::List}) {
+      t.home->kind = kind;
+      EXPECT_EQ(BuildPage(t.generator, t.ball), 0);
+    }
+  }
+  EXPECT_EQ(t.site("2.htm"), "(no file)");
+  EXPECT_EQ(t.window.progress, 0);
+  EXPECT_THAT(t.window.labels, IsEmpty());
+  EXPECT_EQ(t.generator.pageCounter, 0U);
+  EXPECT_EQ(t.site("varlo.idx"), "; Varlo Index File\n; v1.07\n");
+}
+
+// What is told.
+
+TEST_F(PageBuilderTest, EachPageStepsTheProgressShowsItsNameAndCounts) {
+  put("category.htm", "home");
+  put("product.htm", "ball");
+  {
+    IndexFile index(t.generator);
+    EXPECT_EQ(BuildPage(t.generator, t.ball), 1);
+    EXPECT_EQ(BuildPage(t.generator, t.home), 1);
+  }
+  EXPECT_EQ(t.window.progress, 2);
+  EXPECT_THAT(t.window.labels, ElementsAre("2.htm", "1.htm"));
+  EXPECT_EQ(t.generator.pageCounter, 2U);
+  EXPECT_EQ(t.site("1.htm"), "home");
+  EXPECT_EQ(t.site("2.htm"), "ball");
+  EXPECT_NE(t.site("varlo.idx").find("#PBall|"), std::string::npos);
+  EXPECT_THAT(t.window.lines, IsEmpty());
+}
+
+TEST_F(PageBuilderTest, WithoutABuildWindowNothingIsToldAndTheCountersMove) {
+  t.generator.log.buildWindow = nullptr;
+  EXPECT_EQ(shelf("no block"), "no block");
+  EXPECT_EQ(t.window.progress, 0);
+  EXPECT_EQ(t.generator.log.errorCount, 1);
+}
+
+TEST_F(PageBuilderTest, AWrittenPageIsNoLongerModified) {
+  t.home->modified = 1;
+  category("x");
+  EXPECT_EQ(t.home->modified, 0);
+}
+
+// Where it goes.
+
+TEST_F(PageBuilderTest, APageThatCannotBeCreatedIsLostWithAMessageEachTime) {
+  put("category.htm", "x<!--");
+  t.project().webDir.assign("C:\\Nowhere");
+  t.home->modified = 1;
+  EXPECT_EQ(BuildPage(t.generator, t.home), 0);
+  EXPECT_EQ(BuildPage(t.generator, t.home), 0);
+  ASSERT_EQ(t.screen.boxes.size(), 2U);
+  EXPECT_EQ(t.screen.boxes[0].text,
+            "ERROR R107: Unable to open HTML output file\r\nNOTE: Usually caused by the Web Directory specified in "
+            "Preferences not existing.");
+  EXPECT_EQ(t.screen.boxes[0].title, "Error");
+  EXPECT_EQ(t.home->modified, 1);
+  EXPECT_EQ(t.generator.log.errorCount, 0);
+  EXPECT_THAT(t.window.lines, IsEmpty());
+}
+
+TEST_F(PageBuilderTest, ANodeWithoutAFileNameWouldGoToTheWebDirectoryItself) {
+  put("category.htm", "x");
+  t.home->fileName.release();
+  EXPECT_EQ(BuildPage(t.generator, t.home), 0);
+  EXPECT_THAT(t.files.log, ElementsAre("create C:\\Web"));
+  EXPECT_EQ(t.screen.boxes.size(), 1U);
+}
+
+TEST_F(PageBuilderTest, WithoutATemplateThePageIsMadeFromTheOneBefore) {
+  EXPECT_EQ(BuildPage(t.generator, t.ball), 1);
+  EXPECT_EQ(t.files.content("C:\\Web\\2.htm"), "") << "if there was none ever, from an empty text";
+  category("former $TITLE");
+  EXPECT_EQ(BuildPage(t.generator, t.ball), 1);
+  EXPECT_EQ(t.site("2.htm"), "former Ball");
+  EXPECT_THAT(t.window.lines, IsEmpty());
+}
+
+TEST_F(PageBuilderTest, AnOldPageIsReplacedAsAWhole) {
+  t.files.put("C:\\Web\\1.htm", std::string(1000, 'o'));
+  EXPECT_EQ(category("new"), "new");
+  EXPECT_EQ(category(";nothing\n"), "new") << "a template without a line leaves the former text";
+  EXPECT_EQ(t.files.openHandles(), 0U);
+}
+
+TEST_F(PageBuilderTest, WithoutASchemeThePageIsWrittenAllTheSame) {
+  t.project().projectScheme = nullptr;
+  EXPECT_EQ(category("$STORETITLE $TITLE $SUBINDEX"),
+            "Toys $TITLE <table cellspacing=0><tr><td valign=top width=5%></td>"
+            "<td><font size=-1><a href=\"2.htm\">Ball</a></td></tr>\n</table>");
+  EXPECT_EQ(t.screen.boxes.size(), 1U);
+  t.home->templateName.assign("s.htm");
+  t.home->kind = NodeKind::Shelf;
+  put("s.htm", "<SHELF>$TITLE</SHELF>");
+  BuildPage(t.generator, t.home);
+  EXPECT_EQ(t.site("1.htm"), "$TITLE");
+  EXPECT_EQ(t.screen.boxes.size(), 3U) << "once for the item and once for the page";
+}
+
+// Shelf blocks.
+
+TEST_F(PageBuilderTest, TheBlockComesOnceForEachChildWhateverItsStatus) {
+  add("Car")->status = -2;
+  add("Doll")->status = -1;
+  const char* text = "a<SHELF>[$TITLE]</SHELF>b";
+  EXPECT_EQ(shelf(text), "a[Ball][Car][Doll]b");
+  EXPECT_EQ(build(NodeKind::List, text), "a[Ball][Car][Doll]b");
+  EXPECT_EQ(category(text), "a[Home]b") << "elsewhere the marks just go";
+  EXPECT_EQ(build(NodeKind::Product, text), "a[Home]b");
+  EXPECT_THAT(t.window.lines, IsEmpty());
+}
+
+TEST_F(PageBuilderTest, AShelfWithoutChildrenHasNothingInThePlaceOfItsBlock) {
+  t.home->child = nullptr;
+  EXPECT_EQ(shelf("a<SHELF>$TITLE</SHELF>b"), "ab");
+}
+
+TEST_F(PageBuilderTest, AnEmptyBlockIsABlock) {
+  EXPECT_EQ(shelf("a<shelf></shelf>b$SHELF"), "ab$SHELF");
+  EXPECT_THAT(t.window.lines, IsEmpty());
+}
+
+TEST_F(PageBuilderTest, MissingMarksAreAnErrorAndThePageIsWrittenWithoutABlock) {
+  for (const char* text : {"a$SHELF", "a<SHELF>$SHELF", "a</SHELF>$SHELF", "a</SHELF>$SHELF<SHELF>"}) {
+    t.window.lines.clear();
+    t.generator.log.errorCount = 0;
+    EXPECT_EQ(shelf(text), "a$SHELF");
+    EXPECT_THAT(t.window.lines, ElementsAre("error: 1.htm: Invalid or Missing <SHELF>..</SHELF> block."));
+    EXPECT_EQ(t.generator.log.errorCount, 1);
+  }
+}
+
+TEST_F(PageBuilderTest, OnlyTheFirstBlockIsRepeated) {
+  add("Car");
+  EXPECT_EQ(shelf("<SHELF>[$TITLE]</SHELF><Shelf>$TITLE</shelf>"), "[Ball][Car]Home");
+}
+
+TEST_F(PageBuilderTest, WhatABlockLeavesGetsTheValuesOfThePage) {
+  t.home->pageTitle.assign("Page");
+  t.ball->pageTitle.assign("Item");
+  EXPECT_EQ(shelf("<SHELF>$PAGETITLE$PAGETITLE$PAGETITLE$PAGETITLE$PAGETITLE</SHELF>"), "ItemItemItemItemPage");
+  t.ball->metaKeywords.release();
+  t.home->metaKeywords.assign("words");
+  EXPECT_EQ(shelf("<SHELF>$KEYWORDS</SHELF>"), "words");
+}
+
+TEST_F(PageBuilderTest, AnEarlyTextComesBeforeAUserVariableOfItsName) {
+  UserVariable* variable = UserVariableInit(nullptr);
+  variable->name.assign("$BODY");
+  variable->value.assign("variable");
+  UserVariableAppend(t.project(), variable);
+  t.home->body.assign("body");
+  EXPECT_EQ(category("$BODY $BODY $BODY $BODY $BODY"), "body body body body variable");
+}
+
+TEST_F(PageBuilderTest, ABlockHasNoEarlySteps) {
+  add("Car");
+  add("Doll");
+  EXPECT_EQ(
+      shelf("<SHELF>$STORETITLE,$STORETITLE,$STORETITLE,$STORETITLE,$STORETITLE,$STORETITLE;</SHELF>"),
+      "Toys,Toys,Toys,Toys,Toys,Toys;Toys,Toys,Toys,Toys,Toys,Toys;Toys,Toys,Toys,Toys,$STORETITLE,$STORETITLE;")
+      << "four in each block by its item, then four on the page";
+}
+
+TEST_F(PageBuilderTest, TheFirstShelfKeyOfThePageTakesTheBlocks) {
+  t.home->body.assign("$SHELF!");
+  EXPECT_EQ(shelf("$BODY<SHELF>[$TITLE]</SHELF>"), "[Ball]!$SHELF") << "the body is there before the block";
+}
+
+TEST_F(PageBuilderTest, AnItemOfAShelfIsReportedUnderThePageOfTheShelf) {
+  t.ball->productCode.release();
+  t.ball->image.assign("C:\\none.gif");
+  shelf("<SHELF>$BUY</SHELF>");
+  EXPECT_THAT(t.window.lines, ElementsAre("error: 1.htm: no product code",
+                                          "warning: 1.htm: unable to read image file: 'C:\\none.gif'"));
+}
+
+TEST_F(PageBuilderTest, ABlockOf19999BytesIsTaken) {
+  const std::string block = "[$TITLE]" + std::string(19991, 'x');
+  EXPECT_EQ(shelf("<SHELF>" + block + "</SHELF>"), "[Ball]" + std::string(19991, 'x'));
+  EXPECT_EQ(t.generator.scratch, block);
+}
+
+TEST_F(PageBuilderTest, ALongerBlockBecomesTheTextComposedLast) {
+  const std::string tooLong = "a<SHELF>" + std::string(20000, 'x') + "</SHELF>b";
+  EXPECT_EQ(shelf(tooLong), "ab") << "nothing was composed yet";
+  t.generator.scratch = "[$TITLE]";
+  EXPECT_EQ(shelf(tooLong), "a[Ball]b");
+  EXPECT_EQ(t.generator.scratch, "[$TITLE]");
+  EXPECT_THAT(t.window.lines, IsEmpty()) << "no message says so";
+}
+
+TEST_F(PageBuilderTest, TheTextComposedLastIsThatOfThePageBefore) {
+  const std::string tooLong = "<SHELF>" + std::string(20000, 'x') + "</SHELF>";
+  shelf("<SHELF>one $TITLE</SHELF>");
+  EXPECT_EQ(shelf(tooLong), "one Ball") << "a block";
+  t.config().directoryLink = 0;
+  build(NodeKind::Product, "$INDEX$TITLE");
+  EXPECT_EQ(shelf(tooLong), "<table width=100%></table>\n") << "an index";
+  t.ball->status = -2;
+  category("$PRODUCT2");
+  EXPECT_EQ(shelf(tooLong), "<table></table>\n") << "a product table";
+  category("$BUY");
+  EXPECT_EQ(shelf(tooLong), "javascript:parent.shopregister.addItem('1.htm','','Home','0.00','',1,0,0,0)")
+      << "a link";
+  category("$REMOVE");
+  EXPECT_TRUE(shelf(tooLong).starts_with("javascript:parent.shopregister.addItem('1.htm'")) << "with the other one";
+}
+
+// Comments.
+
+TEST_F(PageBuilderTest, TheFirstPlusCommentIsContentAndAllOthersGo) {
+  EXPECT_EQ(category("a<!--+ $TITLE +-->b<!--+ $TITLE +-->c<!-- d -->"), "a Home bc");
+}
+
+TEST_F(PageBuilderTest, ACommentFromAValueGoesAsWell) {
+  t.home->body.assign("x<!-- y -->z");
+  EXPECT_EQ(category("$BODY"), "xz");
+}
+
+TEST_F(PageBuilderTest, ACommentWithoutAnEndIsAnErrorAndStays) {
+  EXPECT_EQ(category("a<!-- b -->c<!-- d"), "ac<!-- d");
+  EXPECT_THAT(t.window.lines, ElementsAre("error: 1.htm: comment without an end"));
+  EXPECT_EQ(t.generator.log.errorCount, 1);
+}
+
+TEST_F(PageBuilderTest, APageWithoutTextIsAnEmptyFile) {
+  EXPECT_EQ(category("<!-- all of it -->"), "");
+  EXPECT_EQ(t.files.content("C:\\Web\\1.htm"), "");
+}
+
+// Sizes.
+
+TEST_F(PageBuilderTest, ALongPageGrows) {
+  const std::string body(19000, 'b');
+  t.home->body.assign(std::string_view(body));
+  std::string text;
+  std::string expected;
+  for (int i = 0; i < 2000; ++i) text += std::string(60, 'x') + "\n";
+  EXPECT_EQ(category(text + "$BODY $BODY $BODY $BODY"), text + body + " " + body + " " + body + " " + body);
+}
+
+TEST_F(PageBuilderTest, ManyUserVariablesAreNoTrouble) {
+  for (int i = 0; i < 66000; ++i) {
+    UserVariable* variable = UserVariableInit(nullptr);
+    variable->name.assign(std::string_view("$V" + std::to_string(i) + "_"));
+    variable->value.assign("v");
+    UserVariableAppend(t.project(), variable);
+  }
+  EXPECT_EQ(category("$V0_ $V65999_ $TITLE"), "v v Home");
+}
+
+}  // namespace
+}  // namespace varlo

@@ -1,0 +1,333 @@
+#include "persist/life/backup.h"
+
+#include <gtest/gtest.h>
+
+#include "persist/life/project_life.h"
+#include "platform/files_wrapper.h"
+#include "tests/support/project_text.h"
+#include "tests/support/tree.h"
+
+namespace varlo {
+namespace {
+
+using namespace test;
+
+const std::string kFolder = "C:\\Varlo\\Projects\\Shop\\Backup";
+const std::string kBackup = kFolder + "\\Shop.stp.";
+
+// A project file with this title.
+std::string stateText(const std::string& title) { return "VERSION=107001\nNODE0=Home\nSTITLE=" + title + "\n"; }
+
+class BackupTest : public testing::Test {
+ protected:
+  TestProgram t;
+  StoreProject& project = t.project();
+
+  // The store's title in a project file, which tells the saved states apart.
+  std::string titleIn(const std::string& path) {
+    const std::string text = t.files.content(path).value_or("STITLE=(no file)\n");
+    const std::size_t at = text.find("STITLE=");
+    return at == std::string::npos ? "(no title)" : text.substr(at + 7, text.find('\n', at) - at - 7);
+  }
+  void saveAs(const std::string& title) {
+    project.storeTitle.assign(std::string_view(title));
+    ProjectSaveNow(t.program);
+  }
+  void saveElevenTimes() {
+    for (int n = 1; n <= 11; ++n) saveAs("State " + std::to_string(n));
+  }
+  void expectTheTenStatesBeforeTheEleventh() {
+    EXPECT_EQ(titleIn(kProjectPath), "State 11");
+    for (int n = 1; n <= 10; ++n) {
+      EXPECT_EQ(titleIn(kBackup + std::to_string(n)), "State " + std::to_string(11 - n)) << "backup " << n;
+    }
+    EXPECT_EQ(t.files.search(kFolder + "\\*.*").size(), 10U);
+  }
+  void openWithBackups(std::initializer_list<int> numbers) {
+    LoadText(t, stateText("On disk"));
+    for (const int n : numbers) t.files.put(kBackup + std::to_string(n), stateText("Backup " + std::to_string(n)));
+    t.files.log.clear();
+    t.screen.tasks.clear();
+  }
+  std::vector<std::string> listedNames() {
+    std::vector<std::string> names;
+    for (const BackupEntry& entry : BackupListRead(t.program)) names.push_back(entry.path);
+    return names;
+  }
+};
+
+TEST_F(BackupTest, ElevenSavesOfANewProjectLeaveTenBackups) {
+  t.files.putFolder("Projects");
+  ProjectCreate(t.program, "Shop");
+  saveElevenTimes();
+  expectTheTenStatesBeforeTheEleventh();
+}
+
+TEST_F(BackupTest, ElevenSavesOfAnOpenedProjectDropTheStateThatWasOpened) {
+  LoadText(t, stateText("Opened"));
+  saveElevenTimes();
+  expectTheTenStatesBeforeTheEleventh();
+}
+
+TEST_F(BackupTest, ASaveKeepsTheStateBeforeIt) {
+  LoadText(t, stateText("Before"));
+  saveAs("After");
+  EXPECT_EQ(titleIn(kProjectPath), "After");
+  EXPECT_EQ(t.files.content(kBackup + "1"), stateText("Before"));
+  EXPECT_EQ(t.files.search(kFolder + "\\*.*").size(), 1U);
+}
+
+TEST_F(BackupTest, TheFirstSaveOfANewProjectOnlyMakesTheFolder) {
+  t.files.putFolder("Projects");
+  ProjectCreate(t.program, "Shop");
+  EXPECT_EQ(BackupRoll(t.program), 0);
+  EXPECT_EQ(t.files.makeFolder(kFolder), MakeFolderResult::Exists);
+  EXPECT_TRUE(t.files.search(kFolder + "\\*.*").empty());
+  EXPECT_TRUE(t.screen.tasks.empty());
+}
+
+TEST_F(BackupTest, RollsFromTheOldestToTheNewest) {
+  openWithBackups({});
+  EXPECT_EQ(BackupRoll(t.program), 1);
+  std::vector<std::string> steps{"makeFolder " + kFolder, "remove " + kBackup + "10"};
+  for (int n = 9; n >= 1; --n) {
+    steps.push_back("move " + kBackup + std::to_string(n) + " to " + kBackup + std::to_string(n + 1));
+  }
+  steps.push_back(std::string("copy ") + kProjectPath + " to " + kBackup + "1");
+  EXPECT_EQ(t.files.log, steps);
+}
+
+TEST_F(BackupTest, AMissingNumberIsNoObstacle) {
+  openWithBackups({1, 2, 4, 10});
+  EXPECT_EQ(BackupRoll(t.program), 1);
+  EXPECT_EQ(titleIn(kBackup + "1"), "On disk");
+  EXPECT_EQ(titleIn(kBackup + "2"), "Backup 1");
+  EXPECT_EQ(titleIn(kBackup + "3"), "Backup 2");
+  EXPECT_EQ(titleIn(kBackup + "4"), "(no file)");
+  EXPECT_EQ(titleIn(kBackup + "5"), "Backup 4");
+  EXPECT_EQ(titleIn(kBackup + "10"), "(no file)");
+}
+
+TEST_F(BackupTest, OnlyTheProjectFileIsKept) {
+  t.files.put("Projects\\Shop\\Template\\order.htm", "order");
+  openWithBackups({});
+  BackupRoll(t.program);
+  EXPECT_EQ(t.files.names(), (std::vector<std::string>{kBackup + "1", kProjectPath,
+                                                       "C:\\Varlo\\Projects\\Shop\\Template\\order.htm"}));
+}
+
+TEST_F(BackupTest, ABackupHasTheNameOfTheProjectFileWhateverItsDots) {
+  t.files.put("C:\\my.shops\\a.b.stp", stateText("On disk"));
+  project.projectFile.assign("C:\\my.shops\\a.b.stp");
+  project.projectDir.assign("C:\\my.shops");
+  EXPECT_EQ(BackupRoll(t.program), 1);
+  EXPECT_EQ(BackupRoll(t.program), 1);
+  EXPECT_EQ(titleIn("C:\\my.shops\\Backup\\a.b.stp.1"), "On disk");
+  EXPECT_EQ(titleIn("C:\\my.shops\\Backup\\a.b.stp.2"), "On disk");
+}
+
+TEST_F(BackupTest, ForeignFilesInTheFolderStay) {
+  openWithBackups({1});
+  t.files.put(kFolder + "\\notes.txt", "mine");
+  t.files.put(kBackup + "11", "mine");
+  BackupRoll(t.program);
+  EXPECT_EQ(t.files.content(kFolder + "\\notes.txt"), "mine");
+  EXPECT_EQ(t.files.content(kBackup + "11"), "mine");
+}
+
+TEST_F(BackupTest, WithoutAProjectNothingIsRolled) {
+  EXPECT_EQ(BackupRoll(t.program), 0);
+  project.projectDir.assign("C:\\Varlo\\Projects\\Shop");
+  EXPECT_EQ(BackupRoll(t.program), 0);
+  project.projectDir.release();
+  project.projectFile.assign(kProjectPath);
+  EXPECT_EQ(BackupRoll(t.program), 0);
+  EXPECT_TRUE(t.files.log.empty());
+}
+
+TEST_F(BackupTest, NothingIsToldOfWhatFails) {
+  openWithBackups({1});
+  t.files.shallFail = [](const std::string&) { return true; };
+  EXPECT_EQ(BackupRoll(t.program), 0);
+  EXPECT_EQ(t.files.log.size(), 12U) << "each step is tried all the same";
+  EXPECT_TRUE(t.screen.boxes.empty());
+}
+
+TEST_F(BackupTest, ARenameThatFailsDoesNotStopTheOthers) {
+  openWithBackups({1, 2, 3});
+  t.files.shallFail = [](const std::string& operation) { return operation.starts_with("move " + kBackup + "2 "); };
+  EXPECT_EQ(BackupRoll(t.program), 1);
+  EXPECT_EQ(titleIn(kBackup + "4"), "Backup 3");
+  EXPECT_EQ(titleIn(kBackup + "2"), "Backup 2") << "the first finds its place taken";
+  EXPECT_EQ(titleIn(kBackup + "1"), "On disk");
+}
+
+TEST_F(BackupTest, ASaveGoesOnWithoutItsBackup) {
+  openWithBackups({});
+  t.files.shallFail = [](const std::string& operation) { return operation.starts_with("makeFolder"); };
+  project.storeTitle.assign("After");
+  EXPECT_EQ(ProjectSaveNow(t.program), 1);
+  EXPECT_EQ(titleIn(kProjectPath), "After");
+  EXPECT_TRUE(t.screen.boxes.empty());
+}
+
+TEST_F(BackupTest, TheListHoldsEveryFileByName) {
+  openWithBackups({1, 2, 10});
+  t.files.put(kFolder + "\\notes.txt", "mine");
+  EXPECT_EQ(listedNames(),
+            (std::vector<std::string>{kFolder + "\\notes.txt", kBackup + "1", kBackup + "10", kBackup + "2"}));
+}
+
+TEST_F(BackupTest, TheListTellsTimeAndSize) {
+  openWithBackups({});
+  t.files.put(kBackup + "1", "TIME=1044072306\nVERSION=107001\n");
+  const std::vector<BackupEntry> backups = BackupListRead(t.program);
+  ASSERT_EQ(backups.size(), 1U);
+  EXPECT_EQ(backups[0].path, kBackup + "1");
+  EXPECT_EQ(backups[0].time, 1044072306);
+  EXPECT_EQ(backups[0].size, 31U);
+  EXPECT_EQ(t.files.openHandles(), 0U);
+}
+
+TEST_F(BackupTest, ABackupTellsTheTimeOfTheSaveThatWroteIt) {
+  LoadText(t, stateText("First"));
+  saveAs("Second");
+  t.clock.set(kTestTime + 60);
+  saveAs("Third");
+  const std::vector<BackupEntry> backups = BackupListRead(t.program);
+  ASSERT_EQ(backups.size(), 2U);
+  EXPECT_EQ(backups[0].time, kTestTime);
+  EXPECT_EQ(backups[1].time, 0) << "what was opened had no time";
+}
+
+TEST_F(BackupTest, AForeignFileHasTheTimeZero) {
+  openWithBackups({});
+  t.files.put(kFolder + "\\1.txt", "notes");
+  t.files.put(kFolder + "\\2.txt", "");
+  t.files.put(kFolder + "\\3.txt", "VERSION=107001\nTIME=5\n");
+  t.files.put(kFolder + "\\4.txt", " TIME=5\n");
+  t.files.put(kFolder + "\\5.txt", "time=5\n");
+  const std::vector<BackupEntry> backups = BackupListRead(t.program);
+  ASSERT_EQ(backups.size(), 5U);
+  for (const BackupEntry& entry : backups) EXPECT_EQ(entry.time, 0) << entry.path;
+  EXPECT_EQ(backups[1].size, 0U);
+}
+
+TEST_F(BackupTest, FoldersAreNotListed) {
+  openWithBackups({1});
+  t.files.putFolder(kFolder + "\\Old");
+  EXPECT_EQ(listedNames(), std::vector<std::string>{kBackup + "1"});
+}
+
+TEST_F(BackupTest, WithoutTheFolderTheListIsEmpty) {
+  openWithBackups({});
+  EXPECT_TRUE(BackupListRead(t.program).empty());
+}
+
+TEST_F(BackupTest, WithoutAProjectTheListIsEmpty) {
+  t.files.put("Backup\\a.stp.1", "TIME=1\n");
+  t.files.put("C:\\Backup\\a.stp.1", "TIME=1\n");
+  EXPECT_TRUE(BackupListRead(t.program).empty());
+}
+
+TEST_F(BackupTest, TheListIsReadAnewEachTime) {
+  openWithBackups({1, 2});
+  EXPECT_EQ(listedNames().size(), 2U);
+  t.files.remove(kBackup + "1");
+  EXPECT_EQ(listedNames(), std::vector<std::string>{kBackup + "2"});
+}
+
+// A disk whose listed files can't be opened, and that keeps the paths as they are asked for.
+class LockedFiles : public FilesWrapper {
+ public:
+  using FilesWrapper::FilesWrapper;
+  std::vector<std::string> folders;
+  FileHandle openRead(std::string_view) override { return kNoFile; }
+  MakeFolderResult makeFolder(std::string_view path) override {
+    folders.emplace_back(path);
+    return FilesWrapper::makeFolder(path);
+  }
+};
+
+TEST_F(BackupTest, AFileThatCanNotBeOpenedIsListedWithTheTimeZero) {
+  openWithBackups({});
+  t.files.put(kBackup + "1", "TIME=5\n");
+  LockedFiles locked(t.files);
+  Program program(locked, t.clock, t.screen, t.clipboard, t.view);
+  program.project.projectDir.assign("C:\\Varlo\\Projects\\Shop");
+  const std::vector<BackupEntry> backups = BackupListRead(program);
+  ASSERT_EQ(backups.size(), 1U);
+  EXPECT_EQ(backups[0].time, 0);
+  EXPECT_EQ(backups[0].size, 7U);
+}
+
+TEST_F(BackupTest, ADoubledBackSlashInThePathOfTheFolderIsReduced) {
+  LockedFiles raw(t.files);
+  Program program(raw, t.clock, t.screen, t.clipboard, t.view);
+  program.project.projectFile.assign("C:\\\\shop.stp");
+  program.project.projectDir.assign("C:\\");
+  BackupRoll(program);
+  EXPECT_EQ(raw.folders, std::vector<std::string>{"C:\\Backup"});
+}
+
+TEST_F(BackupTest, RestoringOpensTheBackupUnderTheNameOfTheProject) {
+  openWithBackups({1, 2});
+  t.files.put(kBackup + "2", "TIME=5\nVERSION=107001\nNODE0=Old\nSTITLE=Old days\n");
+  EXPECT_TRUE(BackupRestore(t.program, kBackup + "2"));
+  EXPECT_EQ(TreeText(project), "Old");
+  EXPECT_STREQ(project.storeTitle.get(), "Old days");
+  EXPECT_STREQ(project.projectFile.get(), kProjectPath);
+  EXPECT_EQ(t.files.content(kProjectPath), t.files.content(kBackup + "2"));
+  EXPECT_EQ(t.screen.tasks, std::vector<std::string>{"Varlo PRO: Loading store project. Please wait........"});
+  ExpectPlainTree(project);
+}
+
+TEST_F(BackupTest, RestoringDoesNotRollAndLeavesTheSeries) {
+  openWithBackups({1, 2, 3});
+  BackupRestore(t.program, kBackup + "2");
+  EXPECT_EQ(t.files.log, (std::vector<std::string>{"copy " + kBackup + "2 to " + kProjectPath}));
+  for (int n = 1; n <= 3; ++n) EXPECT_EQ(titleIn(kBackup + std::to_string(n)), "Backup " + std::to_string(n));
+  EXPECT_EQ(t.files.search(kFolder + "\\*.*").size(), 3U) << "what was on disk is kept nowhere";
+}
+
+TEST_F(BackupTest, RestoringLosesUnsavedChangesWithoutAQuestionOfItsOwn) {
+  openWithBackups({1});
+  AddCategory(project, "Unsaved");
+  project.storeTitle.assign("Unsaved");
+  project.dirty = 1;
+  EXPECT_TRUE(BackupRestore(t.program, kBackup + "1"));
+  EXPECT_EQ(TreeText(project), "Home");
+  EXPECT_STREQ(project.storeTitle.get(), "Backup 1");
+  EXPECT_TRUE(t.screen.boxes.empty());
+}
+
+TEST_F(BackupTest, ABackupWithoutATimeIsRestoredLikeAnyOther) {
+  openWithBackups({});
+  t.files.put(kFolder + "\\by hand", "VERSION=107001\nNODE0=By hand\n");
+  ASSERT_EQ(BackupListRead(t.program).at(0).time, 0);
+  EXPECT_TRUE(BackupRestore(t.program, kFolder + "\\by hand"));
+  EXPECT_EQ(TreeText(project), "By hand");
+}
+
+TEST_F(BackupTest, ACopyThatFailsGoesUnnoticedAndTheOldFileIsShown) {
+  openWithBackups({});
+  AddCategory(project, "Unsaved");
+  EXPECT_FALSE(BackupRestore(t.program, kBackup + "1"));
+  EXPECT_EQ(TreeText(project), "Home");
+  EXPECT_STREQ(project.storeTitle.get(), "On disk");
+  EXPECT_TRUE(t.screen.boxes.empty());
+}
+
+TEST_F(BackupTest, WithNeitherBackupNorFileTheTreeIsMadeNew) {
+  openWithBackups({});
+  t.files.remove(kProjectPath);
+  EXPECT_FALSE(BackupRestore(t.program, kBackup + "1"));
+  EXPECT_EQ(
+      t.screen.boxes,
+      (std::vector<ShownBox>{{std::string("S103: Unable to read project file '") + kProjectPath + "'", "Error"}}));
+  EXPECT_EQ(TreeText(project), "On disk");
+  ExpectPlainTree(project);
+}
+
+}  // namespace
+}  // namespace varlo
