@@ -3,7 +3,7 @@
 #include "cli/commands.h"
 #include "cli/guarded_files.h"
 #include "cli/headless_program.h"
-#include "commerce/freight_expression.h"
+#include "commerce/freight/freight_expression.h"
 #include "core/text/working_text.h"
 
 namespace varlo {

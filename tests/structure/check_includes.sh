@@ -12,14 +12,16 @@ BEGIN {
   level["platform"] = 0
   level["core"] = 1
   level["persist"] = 2
-  level["layout"] = level["commerce"] = 3
-  level["import"] = level["generator"] = 4
-  level["shell"] = 5
-  level["win32"] = level["posix"] = level["cli"] = 6
+  level["layout"] = 3
+  level["commerce"] = 4
+  level["import"] = level["generator"] = 5
+  level["shell"] = 6
+  level["win32"] = level["posix"] = level["cli"] = 7
 
   # The rooms of a folder, from the ground up. Such a folder has no files outside of its rooms.
   rooms("core", "text store program tree")
   rooms("persist", "installation project life dialogs")
+  rooms("commerce", "cards tax freight wizard")
   rooms("generator", "state items template pages cart build")
 
   # Compared in lower case: Windows does not mind the case of a name.

@@ -10,7 +10,7 @@ failures=0
 # include FILE LINE: the tree becomes this file, with this line, beside a header in each folder.
 include() {
   rm -rf -- "${tree:?}"/*
-  for folder in platform core/text core/store persist/project layout commerce import generator/items shell win32 posix \
+  for folder in platform core/text core/store persist/project layout commerce/freight import generator/items shell win32 posix \
     cli; do
     mkdir -p "$tree/$folder"
     echo '#pragma once' >"$tree/$folder/thing.h"
@@ -38,15 +38,15 @@ accepts() {
 # Upwards.
 refuses core/text/a.cpp '#include "persist/project/thing.h"' 'core/text/a.cpp includes persist/project/thing.h: core may not use persist'
 refuses persist/project/a.h '#include "shell/thing.h"' 'persist/project/a.h includes shell/thing.h: persist may not use shell'
-refuses persist/project/a.h '#include "commerce/thing.h"' \
-  'persist/project/a.h includes commerce/thing.h: persist may not use commerce'
+refuses persist/project/a.h '#include "commerce/freight/thing.h"' \
+  'persist/project/a.h includes commerce/freight/thing.h: persist may not use commerce'
 refuses layout/a.h '#include "generator/items/thing.h"' 'layout/a.h includes generator/items/thing.h: layout may not use generator'
 refuses shell/a.cpp '#include "win32/thing.h"' 'shell/a.cpp includes win32/thing.h: shell may not use win32'
 refuses platform/a.h '#include "core/text/thing.h"' 'platform/a.h includes core/text/thing.h: platform may not use core'
 # Sideways.
 refuses import/a.cpp '#include "generator/items/thing.h"' \
   'import/a.cpp includes generator/items/thing.h: import may not use generator'
-refuses layout/a.cpp '#include "commerce/thing.h"' 'layout/a.cpp includes commerce/thing.h: layout may not use commerce'
+refuses layout/a.cpp '#include "commerce/freight/thing.h"' 'layout/a.cpp includes commerce/freight/thing.h: layout may not use commerce'
 refuses cli/a.cpp '#include "posix/thing.h"' 'cli/a.cpp includes posix/thing.h: cli may not use posix'
 # Other ways of writing the same.
 refuses core/text/a.cpp '  #  include <persist/project/thing.h>' 'core/text/a.cpp includes persist/project/thing.h: core may not use persist'

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "commerce/freight_expression.h"
+#include "commerce/freight/freight_expression.h"
 #include "core/program/program.h"
 #include "core/text/line_writer.h"
 #include "core/text/open_file.h"

@@ -1,4 +1,4 @@
-#include "commerce/accepted_cards.h"
+#include "commerce/cards/accepted_cards.h"
 
 #include "core/program/program.h"
 #include "core/store/record.h"

@@ -5,8 +5,8 @@
 #include <fstream>
 #include <regex>
 
-#include "commerce/exact_amount.h"
-#include "commerce/freight_evaluation.h"
+#include "commerce/freight/exact_amount.h"
+#include "commerce/freight/freight_evaluation.h"
 
 namespace varlo {
 namespace {

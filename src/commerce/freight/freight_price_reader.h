@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "commerce/freight_tables.h"
+#include "commerce/freight/freight_tables.h"
 
 namespace varlo {
 

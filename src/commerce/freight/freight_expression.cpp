@@ -1,4 +1,4 @@
-#include "commerce/freight_expression.h"
+#include "commerce/freight/freight_expression.h"
 
 #include <algorithm>
 #include <functional>

@@ -1,4 +1,4 @@
-#include "commerce/freight_tables.h"
+#include "commerce/freight/freight_tables.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "commerce/freight_price_reader.h"
+#include "commerce/freight/freight_price_reader.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "commerce/freight_evaluation.h"
+#include "commerce/freight/freight_evaluation.h"
 
 #include <optional>
 #include <utility>
 #include <vector>
 
-#include "commerce/exact_amount.h"
+#include "commerce/freight/exact_amount.h"
 
 namespace varlo {
 namespace {

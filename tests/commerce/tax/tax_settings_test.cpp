@@ -1,4 +1,4 @@
-#include "commerce/tax_settings.h"
+#include "commerce/tax/tax_settings.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "commerce/freight_price_reader.h"
+#include "commerce/freight/freight_price_reader.h"
 
 #include <cstddef>
 #include <utility>
 
-#include "commerce/exact_amount.h"
+#include "commerce/freight/exact_amount.h"
 
 namespace varlo {
 namespace {

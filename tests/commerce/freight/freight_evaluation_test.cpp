@@ -1,4 +1,4 @@
-#include "commerce/freight_evaluation.h"
+#include "commerce/freight/freight_evaluation.h"
 
 #include <gtest/gtest.h>
 

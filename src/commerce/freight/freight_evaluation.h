@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "commerce/freight_tables.h"
+#include "commerce/freight/freight_tables.h"
 
 namespace varlo {
 

@@ -1,4 +1,4 @@
-#include "commerce/freight_calculation.h"
+#include "commerce/freight/freight_calculation.h"
 
 #include <gtest/gtest.h>
 

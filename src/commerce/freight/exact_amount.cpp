@@ -1,4 +1,4 @@
-#include "commerce/exact_amount.h"
+#include "commerce/freight/exact_amount.h"
 
 #include <cstddef>
 

@@ -1,4 +1,4 @@
-#include "commerce/accepted_cards.h"
+#include "commerce/cards/accepted_cards.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "commerce/freight_tables.h"
+#include "commerce/freight/freight_tables.h"
 
 #include <algorithm>
 #include <cstddef>
 
-#include "commerce/freight_price_reader.h"
+#include "commerce/freight/freight_price_reader.h"
 
 namespace varlo {
 namespace {
