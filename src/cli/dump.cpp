@@ -1,5 +1,6 @@
 #include <array>
 #include <iostream>
+#include <string>
 #include <string_view>
 
 #include <nlohmann/json.hpp>
@@ -9,6 +10,7 @@
 #include "cli/headless_program.h"
 #include "core/program/scheme.h"
 #include "core/store/card_entry.h"
+#include "core/store/node_text.h"
 #include "core/store/user_variable.h"
 #include "core/text/charset.h"
 #include "core/tree/store_tree.h"
@@ -18,32 +20,9 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-struct NodeField {
-  const char* name;
-  Text StoreNode::*text;
-};
-
-constexpr std::array kNodeFields{
-    NodeField{"title", &StoreNode::title},
-    NodeField{"displayTitle", &StoreNode::displayTitle},
-    NodeField{"pageTitle", &StoreNode::pageTitle},
-    NodeField{"cost", &StoreNode::cost},
-    NodeField{"image", &StoreNode::image},
-    NodeField{"imageLink", &StoreNode::imageLink},
-    NodeField{"body", &StoreNode::body},
-    NodeField{"metaDescription", &StoreNode::metaDescription},
-    NodeField{"fileName", &StoreNode::fileName},
-    NodeField{"templateName", &StoreNode::templateName},
-    NodeField{"productCode", &StoreNode::productCode},
-    NodeField{"freight", &StoreNode::freight},
-    NodeField{"weight", &StoreNode::weight},
-    NodeField{"tax", &StoreNode::tax},
-    NodeField{"metaKeywords", &StoreNode::metaKeywords},
-};
-
 // An absent text is left out of an object; in an array, where the position counts, it is null.
-void put(Json& object, const char* key, const Text& text) {
-  if (!text.isNull()) object[key] = Utf8FromLatin1(text.view());
+void put(Json& object, std::string_view key, const Text& text) {
+  if (!text.isNull()) object[std::string(key)] = Utf8FromLatin1(text.view());
 }
 
 template <std::size_t Size>
@@ -55,7 +34,9 @@ Json arrayOf(const std::array<Text, Size>& texts) {
 
 Json nodeJson(const StoreNode& node) {
   Json object{{"kind", static_cast<int>(node.kind)}, {"status", node.status}, {"modified", int{node.modified}}};
-  for (const NodeField& field : kNodeFields) put(object, field.name, node.*field.text);
+  for (const NodeText text : kAllNodeTexts) {
+    if (!IsOption(text)) put(object, NameOf(text), TextOf(node, text));
+  }
   object["field"] = arrayOf(node.field);
   object["label"] = arrayOf(node.label);
   return object;

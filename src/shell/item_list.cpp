@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "core/store/store_node.h"
+#include "core/store/node_text.h"
 #include "core/text/text_edit.h"
 #include "generator/items/html_text.h"
 #include "shell/guards.h"
@@ -12,44 +12,33 @@
 namespace varlo {
 namespace {
 
-using TextOf = const Text& (*)(const StoreNode&);
-
-template <Text StoreNode::*Member>
-const Text& textOf(const StoreNode& node) {
-  return node.*Member;
-}
-template <std::size_t Number>
-const Text& fieldOf(const StoreNode& node) {
-  return node.field[Number];
-}
-
 enum class Order { Ascending, Descending };
 
 struct ItemColumn {
   std::string_view heading;
   int width;
-  TextOf text;
+  NodeText text;
   Order order = Order::Ascending;
   bool thenByTitle = true;
 };
 
 constexpr std::array<ItemColumn, 16> kColumns{{
-    {"Product", 140, textOf<&StoreNode::title>},  // shown by its display title
-    {"Price", 40, textOf<&StoreNode::cost>, Order::Descending},
-    {"Tax", 40, textOf<&StoreNode::tax>, Order::Descending},
-    {"Freight", 40, textOf<&StoreNode::freight>, Order::Descending},
-    {"Weight", 40, textOf<&StoreNode::weight>, Order::Descending},
-    {"Code", 80, textOf<&StoreNode::productCode>},
-    {"Filename", 80, textOf<&StoreNode::fileName>, Order::Ascending, false},
-    {"Template", 80, textOf<&StoreNode::templateName>},
-    {"Image URL", 120, textOf<&StoreNode::image>},
-    {"Image Link", 120, textOf<&StoreNode::imageLink>},
-    {"F1", 40, fieldOf<0>},
-    {"F2", 40, fieldOf<1>},
-    {"F3", 40, fieldOf<2>},
-    {"F4", 40, fieldOf<3>},
-    {"F5", 40, fieldOf<4>},
-    {"F6", 40, fieldOf<5>},
+    {"Product", 140, NodeText::Title},  // shown by its display title
+    {"Price", 40, NodeText::Cost, Order::Descending},
+    {"Tax", 40, NodeText::Tax, Order::Descending},
+    {"Freight", 40, NodeText::Freight, Order::Descending},
+    {"Weight", 40, NodeText::Weight, Order::Descending},
+    {"Code", 80, NodeText::ProductCode},
+    {"Filename", 80, NodeText::FileName, Order::Ascending, false},
+    {"Template", 80, NodeText::TemplateName},
+    {"Image URL", 120, NodeText::Image},
+    {"Image Link", 120, NodeText::ImageLink},
+    {"F1", 40, NodeText::Field1},
+    {"F2", 40, NodeText::Field2},
+    {"F3", 40, NodeText::Field3},
+    {"F4", 40, NodeText::Field4},
+    {"F5", 40, NodeText::Field5},
+    {"F6", 40, NodeText::Field6},
 }};
 
 bool isColumn(int column) { return column >= 0 && column < static_cast<int>(kColumns.size()); }
@@ -66,7 +55,7 @@ int compareNoCase(std::string_view left, std::string_view right) {
 
 // Deliberate: numbers are compared as text too, so that 10 comes before 9.
 int compareBy(const ItemColumn& column, const StoreNode& left, const StoreNode& right) {
-  const int difference = compareNoCase(column.text(left).view(), column.text(right).view());
+  const int difference = compareNoCase(TextOf(left, column.text).view(), TextOf(right, column.text).view());
   if (difference != 0) return column.order == Order::Ascending ? difference : -difference;
   return column.thenByTitle ? compareNoCase(left.title.view(), right.title.view()) : 0;
 }
@@ -100,7 +89,7 @@ StoreNode* nodeOfRow(const Shell& shell, int row) {
 
 std::string_view cellText(StoreNode& node, int column) {
   if (!isColumn(column)) return {};
-  return column == 0 ? displayTitle(&node) : kColumns[static_cast<std::size_t>(column)].text(node).view();
+  return column == 0 ? displayTitle(&node) : TextOf(node, kColumns[static_cast<std::size_t>(column)].text).view();
 }
 
 void sortItemList(Shell& shell, int column) {

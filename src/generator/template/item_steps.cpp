@@ -4,7 +4,7 @@
 
 #include "core/program/messages.h"
 #include "core/program/program.h"
-#include "core/store/store_node.h"
+#include "core/store/node_text.h"
 #include "generator/items/frame_script.h"
 #include "generator/items/links.h"
 
@@ -17,21 +17,13 @@ Value emptied(const Text& text) { return text.view(); }
 const StoreProject& projectOf(const ItemValues& values) { return values.generator().program.project; }
 const AppConfig& configOf(const ItemValues& values) { return values.generator().program.config; }
 
-template <Text StoreNode::*kText>
+template <NodeText kText>
 Value itemText(ItemValues& values) {
-  return emptied(values.item().*kText);
+  return emptied(TextOf(values.item(), kText));
 }
-template <Text StoreNode::*kText>
+template <NodeText kText>
 Value itemTextOrKey(ItemValues& values) {
-  return ValueOf(values.item().*kText);
-}
-template <std::size_t kNumber>
-Value field(ItemValues& values) {
-  return ValueOf(values.item().field[kNumber]);
-}
-template <std::size_t kNumber>
-Value label(ItemValues& values) {
-  return ValueOf(values.item().label[kNumber]);
+  return ValueOf(TextOf(values.item(), kText));
 }
 template <std::size_t kNumber>
 Value slot(ItemValues& values) {
@@ -71,7 +63,6 @@ Value version(ItemValues&) { return kProductVersion; }
 Value product(ItemValues&) { return kProductName; }
 Value frame(ItemValues&) { return kFrameScript; }
 
-using Node = StoreNode;
 using R = Repeat;
 constexpr StepRole kPlain = StepRole::Plain;
 constexpr bool kSame = true;
@@ -81,18 +72,18 @@ constexpr std::array<ItemStep, kItemSteps> kSteps{{
     {"$USER", R::Four, user, kPlain, kSame},
     {"$META_TITLE", R::Four, metaTitle},
     {"$META_DESCRIPTION", R::Four, metaDescription},
-    {"$META_KEYWORDS", R::Four, itemTextOrKey<&Node::metaKeywords>},
+    {"$META_KEYWORDS", R::Four, itemTextOrKey<NodeText::MetaKeywords>},
     {"$STORETITLE", R::Four, storeTitle, kPlain, kSame},
-    {"$PAGETITLE", R::Four, itemText<&Node::pageTitle>},
-    {"$BODY", R::Four, itemText<&Node::body>},
+    {"$PAGETITLE", R::Four, itemText<NodeText::PageTitle>},
+    {"$BODY", R::Four, itemText<NodeText::Body>},
     {"$DESCRIPTION", R::Four, description},
-    {"$KEYWORDS", R::Four, itemTextOrKey<&Node::metaKeywords>},
+    {"$KEYWORDS", R::Four, itemTextOrKey<NodeText::MetaKeywords>},
     {"$HOMELINK", R::Tag, homeLink, kPlain, kSame},
     {"$HOMETITLE", R::Four, homeTitle, kPlain, kSame},
     {"$UPDATED", R::Once, updated},
     {"", R::Check},
     {"$HEADING", R::Four, slot<10>, kPlain, kSame},
-    {"$FILENAME", R::Four, itemText<&Node::fileName>},
+    {"$FILENAME", R::Four, itemText<NodeText::FileName>},
     {"$BUTTON_ADD", R::Four, buttonOrKey<28>, kPlain, kSame},
     {"$BUTTON_REMOVE", R::Four, buttonOrKey<30>, kPlain, kSame},
     {"$BUTTON_BACK", R::Four, buttonOrKey<29>, kPlain, kSame},
@@ -111,33 +102,33 @@ constexpr std::array<ItemStep, kItemSteps> kSteps{{
     {"$REMOVE", R::All, removeLink, StepRole::Link},
     {"$BUY", R::All, addLink, StepRole::Link},
     {"$ADD", R::All, addLink, StepRole::Link},
-    {"$COST", R::All, itemText<&Node::cost>},
-    {"$CODE", R::All, itemText<&Node::productCode>},
-    {"$FREIGHT", R::All, itemText<&Node::freight>},
-    {"$WEIGHT", R::All, itemText<&Node::weight>},
-    {"$TAX", R::All, itemText<&Node::tax>},
+    {"$COST", R::All, itemText<NodeText::Cost>},
+    {"$CODE", R::All, itemText<NodeText::ProductCode>},
+    {"$FREIGHT", R::All, itemText<NodeText::Freight>},
+    {"$WEIGHT", R::All, itemText<NodeText::Weight>},
+    {"$TAX", R::All, itemText<NodeText::Tax>},
     {"$PRICE", R::All, price},
     {"$VARLO_SERVER", R::All, server, StepRole::Server},
     {"$IMAGE", R::Tag, image},
     {"$LINK", R::Tag, imageLink},
-    {"$F1", R::Tag, field<0>},
-    {"$F2", R::Tag, field<1>},
-    {"$F3", R::Tag, field<2>},
-    {"$F4", R::Tag, field<3>},
-    {"$F5", R::Tag, field<4>},
-    {"$F6", R::Tag, field<5>},
-    {"$FIELD1", R::Tag, field<0>},
-    {"$FIELD2", R::Tag, field<1>},
-    {"$FIELD3", R::Tag, field<2>},
-    {"$FIELD4", R::Tag, field<3>},
-    {"$FIELD5", R::Tag, field<4>},
-    {"$FIELD6", R::Tag, field<5>},
-    {"$LABEL1", R::Tag, label<0>},
-    {"$LABEL2", R::Tag, label<1>},
-    {"$LABEL3", R::Tag, label<2>},
-    {"$LABEL4", R::Tag, label<3>},
-    {"$LABEL5", R::Tag, label<4>},
-    {"$LABEL6", R::Tag, label<5>},
+    {"$F1", R::Tag, itemTextOrKey<NodeText::Field1>},
+    {"$F2", R::Tag, itemTextOrKey<NodeText::Field2>},
+    {"$F3", R::Tag, itemTextOrKey<NodeText::Field3>},
+    {"$F4", R::Tag, itemTextOrKey<NodeText::Field4>},
+    {"$F5", R::Tag, itemTextOrKey<NodeText::Field5>},
+    {"$F6", R::Tag, itemTextOrKey<NodeText::Field6>},
+    {"$FIELD1", R::Tag, itemTextOrKey<NodeText::Field1>},
+    {"$FIELD2", R::Tag, itemTextOrKey<NodeText::Field2>},
+    {"$FIELD3", R::Tag, itemTextOrKey<NodeText::Field3>},
+    {"$FIELD4", R::Tag, itemTextOrKey<NodeText::Field4>},
+    {"$FIELD5", R::Tag, itemTextOrKey<NodeText::Field5>},
+    {"$FIELD6", R::Tag, itemTextOrKey<NodeText::Field6>},
+    {"$LABEL1", R::Tag, itemTextOrKey<NodeText::Label1>},
+    {"$LABEL2", R::Tag, itemTextOrKey<NodeText::Label2>},
+    {"$LABEL3", R::Tag, itemTextOrKey<NodeText::Label3>},
+    {"$LABEL4", R::Tag, itemTextOrKey<NodeText::Label4>},
+    {"$LABEL5", R::Tag, itemTextOrKey<NodeText::Label5>},
+    {"$LABEL6", R::Tag, itemTextOrKey<NodeText::Label6>},
     {"$TITLE", R::Four, shownTitle},
     {"$VERSION", R::All, version, kPlain, kSame},
     {"$_VERSION", R::All, version, kPlain, kSame},

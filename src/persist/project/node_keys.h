@@ -1,11 +1,11 @@
 // The text lines of a node in the project file: one table for the reader and the writer, in the order
-// in which they are written.
+// in which they are written. The title is no row of it: it stands in the line that begins the node.
 #pragma once
 
 #include <array>
 #include <string_view>
 
-#include "core/store/store_node.h"
+#include "core/store/node_text.h"
 
 namespace varlo {
 
@@ -17,50 +17,36 @@ enum class NodeKeyRule {
 
 struct NodeKey {
   std::string_view key;  // without "="
-  Text& (*text)(StoreNode& node);
+  NodeText text;
   NodeKeyRule rule = NodeKeyRule::Plain;
 };
 
-namespace node_keys {
-
-template <Text StoreNode::*Member>
-Text& member(StoreNode& node) {
-  return node.*Member;
-}
-
-template <std::array<Text, 6> StoreNode::*Member, std::size_t Index>
-Text& cell(StoreNode& node) {
-  return (node.*Member)[Index];
-}
-
-}  // namespace node_keys
-
-inline constexpr std::array<NodeKey, 25> kNodeKeys{{
-    {"FILE", node_keys::member<&StoreNode::fileName>},
-    {"PAGE", node_keys::member<&StoreNode::pageTitle>},
-    {"IMAGE", node_keys::member<&StoreNode::image>},
-    {"LINK", node_keys::member<&StoreNode::imageLink>},
-    {"KEY", node_keys::member<&StoreNode::metaKeywords>},
-    {"DESC", node_keys::member<&StoreNode::metaDescription>},
-    {"BODY", node_keys::member<&StoreNode::body>, NodeKeyRule::Escaped},
-    {"COST", node_keys::member<&StoreNode::cost>},
-    {"CODE", node_keys::member<&StoreNode::productCode>},
-    {"TEMP", node_keys::member<&StoreNode::templateName>, NodeKeyRule::Template},
-    {"F", node_keys::member<&StoreNode::freight>},
-    {"W", node_keys::member<&StoreNode::weight>},
-    {"X", node_keys::member<&StoreNode::tax>},
-    {"F1", node_keys::cell<&StoreNode::field, 0>},
-    {"F2", node_keys::cell<&StoreNode::field, 1>},
-    {"F3", node_keys::cell<&StoreNode::field, 2>},
-    {"F4", node_keys::cell<&StoreNode::field, 3>},
-    {"F5", node_keys::cell<&StoreNode::field, 4>},
-    {"F6", node_keys::cell<&StoreNode::field, 5>},
-    {"T1", node_keys::cell<&StoreNode::label, 0>},
-    {"T2", node_keys::cell<&StoreNode::label, 1>},
-    {"T3", node_keys::cell<&StoreNode::label, 2>},
-    {"T4", node_keys::cell<&StoreNode::label, 3>},
-    {"T5", node_keys::cell<&StoreNode::label, 4>},
-    {"T6", node_keys::cell<&StoreNode::label, 5>},
+inline constexpr std::array<NodeKey, kNodeTexts - 1> kNodeKeys{{
+    {"FILE", NodeText::FileName},
+    {"PAGE", NodeText::PageTitle},
+    {"IMAGE", NodeText::Image},
+    {"LINK", NodeText::ImageLink},
+    {"KEY", NodeText::MetaKeywords},
+    {"DESC", NodeText::MetaDescription},
+    {"BODY", NodeText::Body, NodeKeyRule::Escaped},
+    {"COST", NodeText::Cost},
+    {"CODE", NodeText::ProductCode},
+    {"TEMP", NodeText::TemplateName, NodeKeyRule::Template},
+    {"F", NodeText::Freight},
+    {"W", NodeText::Weight},
+    {"X", NodeText::Tax},
+    {"F1", NodeText::Field1},
+    {"F2", NodeText::Field2},
+    {"F3", NodeText::Field3},
+    {"F4", NodeText::Field4},
+    {"F5", NodeText::Field5},
+    {"F6", NodeText::Field6},
+    {"T1", NodeText::Label1},
+    {"T2", NodeText::Label2},
+    {"T3", NodeText::Label3},
+    {"T4", NodeText::Label4},
+    {"T5", NodeText::Label5},
+    {"T6", NodeText::Label6},
 }};
 
 }  // namespace varlo

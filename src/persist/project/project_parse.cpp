@@ -201,7 +201,7 @@ void Parser::readKey(std::string_view line) {
 void Parser::readNodeText(const NodeKey& key, std::string_view value) {
   StoreNode& node = *level().lastNode;
   if (key.rule == NodeKeyRule::Escaped) value = UnescapeLines(value, scratch_);
-  key.text(node).assignLine(value);
+  TextOf(node, key.text).assignLine(value);
   if (key.rule == NodeKeyRule::Template && node.kind == NodeKind::Shelf &&
       project_.fileVersion < kFirstVersionWithLists && FindNoCase(value, "list") != std::string_view::npos) {
     node.kind = NodeKind::List;

@@ -28,12 +28,12 @@ void writeSet(LineWriter& writer, std::string_view key, const Text& value) {
   if (value.isSet()) LineWrite(writer, key, "=", value, "\n");
 }
 
-void writeNode(LineWriter& writer, StoreNode& node, std::string& scratch) {
+void writeNode(LineWriter& writer, const StoreNode& node, std::string& scratch) {
   LineWrite(writer, "NODE", static_cast<std::int32_t>(node.kind), "=", node.title, "\n");
   LineWrite(writer, "STATUS=", node.status, "\n");
   LineWrite(writer, "MOD=", std::int32_t{node.modified}, "\n");
   for (const NodeKey& key : kNodeKeys) {
-    const Text& text = key.text(node);
+    const Text& text = TextOf(node, key.text);
     if (!text.isSet()) continue;
     const bool escaped = key.rule == NodeKeyRule::Escaped;
     LineWrite(writer, key.key, "=", escaped ? EscapeLines(text.view(), scratch) : text.view(), "\n");
@@ -51,7 +51,7 @@ void writeTree(Program& program, LineWriter& writer, std::string& scratch) {
       continue;
     }
     if (walk.depth() == counts.size()) counts.push_back(0);
-    StoreNode& node = *walk.node();
+    const StoreNode& node = *walk.node();
     writeNode(writer, node, scratch);
     if (node.child != nullptr && !IsProduct(node)) LineWrite(writer, "#BRANCH\n");
     if (++counts.back() % kNodesPerCount == 0) program.screen.showTaskCount(counts.back());
