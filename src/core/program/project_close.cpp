@@ -10,6 +10,7 @@ namespace varlo {
 // clipboardNode stay. The project file is always written with all of them.
 void ProjectClose(Program& program) {
   StoreProject& project = program.project;
+  ++project.serial;
   project.webDir.release();
   project.storeTitle.release();
   project.tax.freightTaxRate.release();

@@ -27,6 +27,10 @@ struct TaxSettings {
 inline constexpr std::int32_t kFileVersion = 107001;
 
 struct StoreProject {
+  // Another number for each project that was open in this run. What has to wait for the user keeps it, and looks
+  // whether the project is still the same before it puts anything back.
+  std::uint32_t serial = 0;
+
   Text projectFile;  // full path of the .stp file; null when no project is open
   Text projectDir;   // projectFile up to its last back slash
   Text webDir;       // target of the build

@@ -103,6 +103,7 @@ int RunBuild(Generator& generator, std::string directory, std::string_view title
   if (!CheckDirectoryName(generator.program, directory)) return 0;
   if (directory.ends_with('\\')) directory.pop_back();
   const Text former = project.webDir;
+  const std::uint32_t serial = project.serial;
   project.webDir.assign(std::string_view(directory));
   if (makeDirectories(generator, directory) == 0) {
     project.webDir = former;
@@ -112,7 +113,7 @@ int RunBuild(Generator& generator, std::string directory, std::string_view title
   writeSite(generator, directory);
   endLog(generator.log);
   showSite(generator.program);
-  project.webDir = former;
+  if (project.serial == serial) project.webDir = former;  // the browser may have let the user open another
   return 1;
 }
 

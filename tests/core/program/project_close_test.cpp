@@ -21,6 +21,15 @@ class ProjectCloseTest : public testing::Test {
   StoreProject& project = t.project();
 };
 
+TEST_F(ProjectCloseTest, WhatFollowsIsAnotherProject) {
+  const std::uint32_t first = project.serial;
+  ProjectClose(t.program);
+  const std::uint32_t second = project.serial;
+  EXPECT_NE(first, second);
+  ProjectClose(t.program);
+  EXPECT_NE(project.serial, second);
+}
+
 TEST_F(ProjectCloseTest, ReleasesWhatANewProjectReplaces) {
   project.webDir.assign("w");
   project.storeTitle.assign("t");

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/program/project_close.h"
 #include "core/store/string_item.h"
 #include "core/store/user_variable.h"
 #include "generator/cart/cart_frames.h"
@@ -192,6 +193,28 @@ TEST_F(Build, TheTitleStaysAndTheDirectoryDoesNot) {
   EXPECT_STREQ(project.webDir.get(), "C:\\Web");
   EXPECT_THAT(page("index.html"), HasSubstr("<TITLE>New title</TITLE>"));
   EXPECT_EQ(project.dirty, 0);
+}
+
+// The user opens another project while the browser is spoken to.
+struct ReplacingView : RecordingView {
+  Program* program = nullptr;
+  void openInBrowser(std::string_view address) override {
+    RecordingView::openInBrowser(address);
+    ProjectClose(*program);
+    program->project.webDir.assign("C:\\Other");
+  }
+};
+
+TEST_F(Build, TheDirectoryOfAnotherProjectIsNotTouched) {
+  ReplacingView view;
+  Program program(t.files, t.clock, t.screen, t.clipboard, view);
+  view.program = &program;
+  program.project.projectScheme = project.projectScheme;
+  program.project.webDir.assign("C:\\Web");
+  Generator generator(program);
+  EXPECT_EQ(RunBuild(generator, "C:\\Site", "Toys"), 1);
+  EXPECT_THAT(view.calls, testing::Contains("openInBrowser C:\\Site\\index.html"));
+  EXPECT_STREQ(program.project.webDir.get(), "C:\\Other");
 }
 
 TEST_F(Build, AnAbsentWebDirectoryIsAbsentAgain) {
