@@ -34,4 +34,35 @@ void UserVariableAppend(StoreProject& project, UserVariable* variable) {
   project.variablesTail = variable;
 }
 
+void UserVariableInsert(StoreProject& project, UserVariable* variable) {
+  UserVariable* place = project.currentVariable;
+  if (place == nullptr || place == project.variablesTail) return UserVariableAppend(project, variable);
+  variable->next = place->next;
+  place->next = variable;
+}
+
+void UserVariablesDeleteMarked(StoreProject& project) {
+  bool currentGone = false;  // and none behind it has been found yet
+  UserVariable* kept = nullptr;
+  for (UserVariable** link = &project.variables; *link != nullptr;) {
+    UserVariable* variable = *link;
+    if (variable->deleteMark != kVariableDeleteMark) {
+      if (currentGone) project.currentVariable = variable;
+      currentGone = false;
+      kept = variable;
+      link = &variable->next;
+      continue;
+    }
+    // Deliberate: a new head becomes current, whichever was.
+    if (kept == nullptr || project.currentVariable == variable) {
+      project.currentVariable = nullptr;
+      currentGone = true;
+    }
+    *link = variable->next;
+    delete variable;
+  }
+  if (currentGone) project.currentVariable = kept;
+  project.variablesTail = kept;
+}
+
 }  // namespace varlo

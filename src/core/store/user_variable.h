@@ -35,4 +35,11 @@ void UserVariableListFree(StoreProject& project, UserVariable* head);
 // Puts `variable` at the tail of the project's list.
 void UserVariableAppend(StoreProject& project, UserVariable* variable);
 
+// Puts `variable` behind the project's current one; at the head of an empty list, at the tail when none is current.
+void UserVariableInsert(StoreProject& project, UserVariable* variable);
+
+// Releases the marked variables. Where the head goes, the new head becomes current; where another current one goes,
+// the one behind it that stays, else the one in front of it.
+void UserVariablesDeleteMarked(StoreProject& project);
+
 }  // namespace varlo

@@ -70,6 +70,85 @@ TEST(UserVariable, FreeingTheListClearsTheReferencesToItsRecords) {
   EXPECT_EQ(project.currentVariable, nullptr);
 }
 
+// A project with variables of one letter each; "!" behind one marks it, and the current one is a capital.
+struct Variables {
+  StoreProject project;
+
+  explicit Variables(std::string_view names) {
+    for (const char c : names) {
+      if (c == '!') {
+        project.variablesTail->deleteMark = kVariableDeleteMark;
+        continue;
+      }
+      UserVariable* variable = UserVariableInit(nullptr);
+      variable->name.assign(std::string_view(&c, 1));
+      UserVariableAppend(project, variable);
+      if (c < 'a') project.currentVariable = variable;
+    }
+  }
+  ~Variables() { UserVariableListFree(project, project.variables); }
+  Variables(const Variables&) = delete;
+  Variables& operator=(const Variables&) = delete;
+
+  // The names in order, with the current one in brackets, once the tail is found to be what it is.
+  [[nodiscard]] std::string show() const {
+    std::string names;
+    const UserVariable* last = nullptr;
+    for (const UserVariable* variable = project.variables; variable != nullptr; variable = variable->next) {
+      const bool isCurrent = variable == project.currentVariable;
+      names.append(isCurrent ? "[" : "").append(variable->name.view()).append(isCurrent ? "]" : "");
+      last = variable;
+    }
+    return last == project.variablesTail ? names : "tail";
+  }
+};
+
+std::string afterInsert(std::string_view names) {
+  Variables variables(names);
+  UserVariable* added = UserVariableInit(nullptr);
+  added->name.assign("+");
+  UserVariableInsert(variables.project, added);
+  return variables.show();
+}
+
+TEST(UserVariable, IsInsertedBehindTheCurrentOne) {
+  EXPECT_EQ(afterInsert("Abc"), "[A]+bc");
+  EXPECT_EQ(afterInsert("aBc"), "a[B]+c");
+  EXPECT_EQ(afterInsert("abC"), "ab[C]+");
+}
+
+TEST(UserVariable, IsTheHeadOfAnEmptyListAndTheTailOfOneWithoutACurrentOne) {
+  EXPECT_EQ(afterInsert(""), "+");
+  EXPECT_EQ(afterInsert("ab"), "ab+");
+}
+
+std::string afterDeletion(std::string_view names) {
+  Variables variables(names);
+  UserVariablesDeleteMarked(variables.project);
+  return variables.show();
+}
+
+TEST(UserVariable, DeletionTakesAllThatAreMarkedAndNoOthers) {
+  EXPECT_EQ(afterDeletion("Ab!cd!e"), "[A]ce");
+  EXPECT_EQ(afterDeletion("Abc"), "[A]bc");
+  EXPECT_EQ(afterDeletion(""), "");
+  EXPECT_EQ(afterDeletion("A!b!c!"), "");
+}
+
+TEST(UserVariable, BehindADeletedHeadTheNextOneIsHeadAndCurrent) {
+  EXPECT_EQ(afterDeletion("A!bc"), "[b]c");
+  EXPECT_EQ(afterDeletion("A!b!c"), "[c]");
+  EXPECT_EQ(afterDeletion("a!bC"), "[b]C") << "Also when another was current.";
+  EXPECT_EQ(afterDeletion("a!bC!"), "[b]");
+}
+
+TEST(UserVariable, BehindADeletedCurrentOneItsNeighbourIsCurrent) {
+  EXPECT_EQ(afterDeletion("aB!c"), "a[c]");
+  EXPECT_EQ(afterDeletion("aB!c!d"), "a[d]");
+  EXPECT_EQ(afterDeletion("abC!"), "a[b]");
+  EXPECT_EQ(afterDeletion("ab!C!"), "[a]");
+}
+
 void addCard(CardEntry*& head, CardEntry*& tail, const char* name) {
   CardEntry* card = CardEntryInit(nullptr);
   card->name.assign(name);
