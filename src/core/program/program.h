@@ -9,6 +9,7 @@
 #include "core/store/app_config.h"
 #include "core/store/store_project.h"
 #include "core/text/limits.h"
+#include "core/text/line_buffer.h"
 #include "platform/clipboard.h"
 #include "platform/clock.h"
 #include "platform/files.h"
@@ -32,6 +33,7 @@ struct Program {
   AppConfig config;
   StoreProject project;
   std::array<TextSlot, kTextSlots> slots;
+  LineBuffer lineBuffer;  // the text last read from a field, or the line last read from a file
   bool waitCursorShown = false;
 };
 

@@ -51,7 +51,7 @@ int FileReadToSlot(Program& program, int slot, std::string_view path, bool skipC
   target.rewind();
   OpenFile file(program.files, program.files.openRead(path));
   if (!file.isOpen()) return 0;
-  LineReader reader(program.files, file.handle());
+  LineReader reader(program.files, file.handle(), program.lineBuffer);
   std::string_view line;
   while (LineRead(reader, line) != 0) {
     if (skipComments && line.starts_with(';')) continue;

@@ -20,8 +20,13 @@ LineReader::LineReader(Files& files, FileHandle file, std::size_t maximum)
       buffer_(std::make_unique_for_overwrite<char[]>(capacity_)),
       atEnd_(file == kNoFile) {}
 
+LineReader::LineReader(Files& files, FileHandle file, LineBuffer& buffer) : LineReader(files, file) {
+  lineBuffer_ = &buffer;
+}
+
 // Moves what is left to the front and fills the rest; false when nothing came.
 bool LineReader::fill() {
+  leaveLine();
   if (atEnd_) return false;
   std::memmove(buffer_.get(), buffer_.get() + begin_, end_ - begin_);
   end_ -= begin_;

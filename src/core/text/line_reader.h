@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "core/text/limits.h"
+#include "core/text/line_buffer.h"
 #include "core/text/text_edit.h"
 #include "platform/files.h"
 
@@ -20,6 +21,11 @@ class LineReader {
   // Reads from the position of an open file, which the caller closes; kNoFile has no lines. `maximum`
   // is the room for a line in bytes, of which whole blocks of 256 are used.
   LineReader(Files& files, FileHandle file, std::size_t maximum = kLineBuffer);
+  // The same with the maximum used everywhere; the last line stays in `buffer`.
+  LineReader(Files& files, FileHandle file, LineBuffer& buffer);
+  ~LineReader() { leaveLine(); }
+  LineReader(const LineReader&) = delete;
+  LineReader& operator=(const LineReader&) = delete;
 
  private:
   friend std::size_t LineRead(LineReader& reader, std::string_view& line);
@@ -29,7 +35,13 @@ class LineReader {
   std::size_t take(std::size_t size, std::string_view& line) {
     line = {buffer_.get() + begin_, size};
     begin_ += size;
+    lastLine_ = size;
     return size;
+  }
+  // Holding every line would cost as much as reading it: only one that is not followed by another is held.
+  void leaveLine() {
+    if (lineBuffer_ != nullptr && lastLine_ > 0) lineBuffer_->hold({buffer_.get() + begin_ - lastLine_, lastLine_});
+    lastLine_ = 0;
   }
   std::size_t takeSlowly(std::string_view& line);
   std::size_t takeBehindNul(std::string_view& line);
@@ -43,6 +55,8 @@ class LineReader {
   std::size_t end_ = 0;
   bool atEnd_;
   bool holdsNul_ = false;
+  LineBuffer* lineBuffer_ = nullptr;
+  std::size_t lastLine_ = 0;  // length of the line that was given last, which ends at begin_
 };
 
 // Gives the next line with its line end, and its length; 0 at the end of the file. The line stays valid

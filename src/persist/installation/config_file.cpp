@@ -184,7 +184,7 @@ void writeConfig(const Program& program, LineWriter& writer) {
 int ConfigRead(Program& program, std::string_view path) {
   OpenFile file(program.files, program.files.openRead(path));
   if (!file.isOpen()) return 0;
-  LineReader reader(program.files, file.handle());
+  LineReader reader(program.files, file.handle(), program.lineBuffer);
   LayoutSection section(program.config);
   std::string_view line;
   while (LineReadTrimmed(reader, line) != 0) readLine(program, section, {line, TextBehind(line, '=')});

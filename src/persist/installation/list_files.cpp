@@ -20,7 +20,7 @@ bool readLines(Program& program, const char* path, std::string_view failure, Tak
     ErrorBox(program, failure);
     return false;
   }
-  LineReader reader(program.files, file.handle());
+  LineReader reader(program.files, file.handle(), program.lineBuffer);
   std::string_view line;
   while (LineReadTrimmed(reader, line) != 0) take(line);
   return true;

@@ -186,7 +186,7 @@ constexpr std::array<const char*, 10> kDefaultFiles{"img\\h1.gif",     "img\\h2.
 int SchemeCatalogueRead(Program& program, std::string_view path) {
   OpenFile file(program.files, program.files.openRead(path));
   if (!file.isOpen()) return 0;
-  LineReader lines(program.files, file.handle());
+  LineReader lines(program.files, file.handle(), program.lineBuffer);
   Reader reader(program);
   std::string_view line;
   while (LineReadTrimmed(lines, line) != 0) reader.readLine(line);
@@ -223,7 +223,7 @@ int TemplateVersionsRead(Program& program) {
   config.templateVersionConfirm = 0;
   OpenFile file(program.files, program.files.openRead("version.ini"));
   if (!file.isOpen()) return 0;
-  LineReader reader(program.files, file.handle());
+  LineReader reader(program.files, file.handle(), program.lineBuffer);
   std::string_view line;
   while (LineRead(reader, line) != 0) {
     if (line.starts_with("ORDER=")) config.templateVersionOrder = LeadingInt(TextBehind(line, '='));

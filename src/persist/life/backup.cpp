@@ -18,7 +18,7 @@ std::string backupFolder(const StoreProject& project) {
 // The time that a backup's first line tells.
 std::int32_t readTime(Program& program, const std::string& path) {
   OpenFile file(program.files, program.files.openRead(path));
-  LineReader reader(program.files, file.handle());
+  LineReader reader(program.files, file.handle(), program.lineBuffer);
   std::string_view line;
   if (LineRead(reader, line) == 0 || !line.starts_with("TIME=")) return 0;
   return LeadingInt(TextBehind(line, '='));

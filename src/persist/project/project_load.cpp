@@ -37,7 +37,7 @@ int loadProject(Program& program) {
   }
   ProjectClose(program);
   ProjectDirFromFile(project);
-  LineReader reader(program.files, file.handle());
+  LineReader reader(program.files, file.handle(), program.lineBuffer);
   project.nodesRead = 0;
   project.root = ProjectParse(program, reader, nullptr, nullptr, false);
   project.currentNode = project.treeNode = project.root;

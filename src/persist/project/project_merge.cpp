@@ -87,7 +87,7 @@ int ProjectMerge(Program& program, const char* path) {
   if (!hasPlace(project, path)) return 0;
   OpenFile file(program.files, openOther(program, path));
   if (!file.isOpen()) return 0;
-  LineReader reader(program.files, file.handle());
+  LineReader reader(program.files, file.handle(), program.lineBuffer);
   StoreNode* last = project.currentNode != nullptr ? mergeTree(program, reader) : readWhole(program, reader);
   file.close();
   program.view.clearTree();
@@ -116,7 +116,7 @@ int FreightImport(Program& program, const char* path) {
   OpenFile file(program.files, openOther(program, path));
   if (!file.isOpen()) return 0;
   emptyMethods(program.project);
-  LineReader lines(program.files, file.handle());
+  LineReader lines(program.files, file.handle(), program.lineBuffer);
   readFreight(program, lines);
   program.view.loadFreightList();
   SetDirty(program, 1);

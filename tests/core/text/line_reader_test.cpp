@@ -357,5 +357,74 @@ TEST(LineRead, ReadsAnyFileAsThePlainReaderDoes) {
   }
 }
 
+// What stays in the line buffer of a program when a file was read.
+std::string leftBy(std::string_view content, int lines, std::string_view before = "before") {
+  test::FakeFiles files;
+  files.put(kFile, content);
+  const OpenFile file(files, files.openRead(kFile));
+  LineBuffer buffer;
+  buffer.hold(before);
+  {
+    LineReader reader(files, file.handle(), buffer);
+    std::string_view line;
+    while (lines-- > 0) LineRead(reader, line);
+  }
+  return buffer.text();
+}
+
+TEST(LineReaderBuffer, KeepsTheLineThatWasReadLast) {
+  EXPECT_EQ(leftBy("a\nb\nc\n", 2), "b\n");
+  EXPECT_EQ(leftBy("a\nb\nc", 3), "c");
+  EXPECT_EQ(leftBy("a\nb\nc", 10), "c") << "The end of the file is no line.";
+}
+
+TEST(LineReaderBuffer, KeepsWhatWasThereBeforeWhenNoLineWasRead) {
+  EXPECT_EQ(leftBy("", 3), "before");
+  EXPECT_EQ(leftBy("a\n", 0), "before");
+}
+
+TEST(LineReaderBuffer, KeepsTheLastLineOfAFileOfManyBlocks) {
+  std::string content;
+  for (int i = 0; i < 30000; ++i) content += std::to_string(i) + "\r\n";
+  EXPECT_EQ(leftBy(content, 30001), "29999\r\n");
+  EXPECT_EQ(leftBy(content, 12346), "12345\r\n");
+}
+
+TEST(LineReaderBuffer, KeepsTheRestOfALineThatWasCut) {
+  EXPECT_EQ(leftBy(run(19968) + run(40, 'y'), 1), run(19968));
+  EXPECT_EQ(leftBy(run(19968) + run(40, 'y'), 3), run(40, 'y'));
+}
+
+TEST(LineReaderBuffer, KeepsALineWithoutTheNulInFrontOfIt) { EXPECT_EQ(leftBy(nuls(1) + "ab\n", 1), "ab\n"); }
+
+// A file that is read whole while another is still open comes later than what was read of that one.
+TEST(LineReaderBuffer, AFileReadLaterCountsThoughTheFirstIsClosedBehindIt) {
+  test::FakeFiles files;
+  files.put(kFile, "outer\n");
+  files.put("inner.txt", "inner\n");
+  LineBuffer buffer;
+  {
+    const OpenFile outer(files, files.openRead(kFile));
+    LineReader outerReader(files, outer.handle(), buffer);
+    std::string_view line;
+    while (LineRead(outerReader, line) != 0) {
+    }
+    const OpenFile inner(files, files.openRead("inner.txt"));
+    LineReader innerReader(files, inner.handle(), buffer);
+    while (LineRead(innerReader, line) != 0) {
+    }
+  }
+  EXPECT_EQ(buffer.text(), "inner\n");
+}
+
+TEST(LineBuffer, IsCutAt20000Bytes) {
+  LineBuffer buffer;
+  EXPECT_EQ(buffer.text(), "");
+  buffer.hold(run(20000));
+  EXPECT_EQ(buffer.text(), run(20000));
+  buffer.hold(run(20001));
+  EXPECT_EQ(buffer.text(), run(20000));
+}
+
 }  // namespace
 }  // namespace varlo
