@@ -6,6 +6,7 @@
 #include "core/text/open_file.h"
 #include "core/text/paths.h"
 #include "persist/life/backup.h"
+#include "persist/life/project_life.h"
 
 namespace varlo {
 namespace {
@@ -46,7 +47,7 @@ int RunRestore(Machine& machine, const CommandArguments& arguments) {
     std::cerr << "varlo-cli: there is no backup " << arguments.number << '\n';
     return kExitFailed;
   }
-  return BackupRestore(program, backup) ? kExitDone : kExitFailed;
+  return ProjectRestore(program, backup) ? kExitDone : kExitFailed;
 }
 
 }  // namespace varlo

@@ -3,7 +3,6 @@
 #include "cli/headless_program.h"
 #include "persist/life/backup.h"
 #include "persist/project/project_merge.h"
-#include "persist/project/project_save.h"
 
 namespace varlo {
 namespace {
@@ -15,8 +14,7 @@ int changeProject(Machine& machine, const CommandArguments& arguments, Change ch
   if (!headless.load(arguments.project)) return kExitFailed;
   Program& program = headless.program();
   if (change(program, machine.files->nameOf(arguments.other)) != 1) return kExitFailed;
-  BackupRoll(program);
-  return ProjectSave(program) == 1 ? kExitDone : kExitFailed;
+  return SaveWithBackup(program) == 1 ? kExitDone : kExitFailed;
 }
 
 }  // namespace

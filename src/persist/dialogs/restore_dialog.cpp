@@ -5,6 +5,7 @@
 #include "core/program/messages.h"
 #include "core/program/program.h"
 #include "core/text/number_text.h"
+#include "persist/life/project_life.h"
 #include "platform/control_ids.h"
 
 namespace varlo {
@@ -52,7 +53,7 @@ void RestoreDialog::restore(Dialog& dialog) {
                                                     .buttons = Buttons::YesNoCancel,
                                                     .icon = Icon::Question});
   if (answer != Answer::Yes) return;
-  BackupRestore(program_, selectedBackup_->path);
+  ProjectRestore(program_, selectedBackup_->path);
   dialog.end(1);
 }
 

@@ -6,7 +6,7 @@
 #include "core/text/open_file.h"
 #include "core/text/paths.h"
 #include "core/text/text_search.h"
-#include "persist/life/project_life.h"
+#include "persist/project/project_save.h"
 
 namespace varlo {
 namespace {
@@ -51,11 +51,9 @@ std::vector<BackupEntry> BackupListRead(Program& program) {
   return backups;
 }
 
-bool BackupRestore(Program& program, const std::string& path) {
-  const std::string target(program.project.projectFile.view());
-  const bool copied = program.files.copy(path, target, true);
-  ProjectOpenPath(program, target, true);
-  return copied;
+int SaveWithBackup(Program& program) {
+  BackupRoll(program);
+  return ProjectSave(program);
 }
 
 }  // namespace varlo

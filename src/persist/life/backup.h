@@ -26,8 +26,7 @@ int BackupRoll(Program& program);
 // Every file in the project's backup folder, whatever its name, by name.
 [[nodiscard]] std::vector<BackupEntry> BackupListRead(Program& program);
 
-// Copies a backup over the project's file, which is not kept, and opens it. Gives whether the copy
-// worked; the project is opened again in any case.
-bool BackupRestore(Program& program, const std::string& path);
+// What every save of the user's is: the rolling backup, then the project. Gives the result of the save.
+int SaveWithBackup(Program& program);
 
 }  // namespace varlo

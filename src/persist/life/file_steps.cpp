@@ -5,7 +5,6 @@
 #include "persist/installation/list_files.h"
 #include "persist/installation/scheme_catalogue.h"
 #include "persist/life/backup.h"
-#include "persist/project/project_save.h"
 
 namespace varlo {
 
@@ -28,10 +27,7 @@ StartUpSteps FileStartUpSteps() {
 
 ShutDownSteps FileShutDownSteps() {
   ShutDownSteps steps;
-  steps.saveWithBackup = [](Program& program) {
-    BackupRoll(program);
-    return ProjectSave(program);
-  };
+  steps.saveWithBackup = SaveWithBackup;
   steps.saveConfig = ConfigSave;
   return steps;
 }

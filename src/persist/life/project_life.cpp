@@ -10,7 +10,6 @@
 #include "persist/life/template_set.h"
 #include "persist/project/project_load.h"
 #include "persist/project/project_paths.h"
-#include "persist/project/project_save.h"
 
 namespace varlo {
 namespace {
@@ -40,11 +39,6 @@ void copyFormTemplate(Program& program, std::string_view shipped, std::string_vi
                       std::string_view failure) {
   const std::string target = std::string(program.project.projectDir.view()).append("\\Template\\").append(fileName);
   if (!program.files.copy(shipped, target, true)) ErrorBox(program, failure);
-}
-
-int saveWithBackup(Program& program) {
-  BackupRoll(program);
-  return ProjectSave(program);
 }
 
 }  // namespace
@@ -125,12 +119,19 @@ int ProjectOpenDialog(Program& program) {
   return ProjectOpenPath(program, *path, false);
 }
 
-int SavePrompt(Program& program) { return AskToSave(program, saveWithBackup); }
+int SavePrompt(Program& program) { return AskToSave(program, SaveWithBackup); }
 
 int ProjectSaveNow(Program& program) {
-  const int result = saveWithBackup(program);
+  const int result = SaveWithBackup(program);
   ConfigSave(program);
   return result;
+}
+
+bool ProjectRestore(Program& program, const std::string& backup) {
+  const std::string target(program.project.projectFile.view());
+  const bool copied = program.files.copy(backup, target, true);
+  ProjectOpenPath(program, target, true);
+  return copied;
 }
 
 std::string ProjectsFolder(Program& program) { return program.files.workingFolder() + "\\Projects"; }

@@ -38,6 +38,10 @@ int SavePrompt(Program& program);
 // The Save command: rolling backup, project, configuration. Gives the result of the project's save.
 int ProjectSaveNow(Program& program);
 
+// Copies a backup over the project's file, which is not kept, and opens it. Gives whether the copy
+// worked; the project is opened again in any case.
+bool ProjectRestore(Program& program, const std::string& backup);
+
 // The folder below which projects are made.
 [[nodiscard]] std::string ProjectsFolder(Program& program);
 

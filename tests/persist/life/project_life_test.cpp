@@ -691,6 +691,78 @@ TEST_F(ProjectSaveNowTest, ASaveThatFailsIsToldAndTheConfigurationIsWrittenAllTh
   EXPECT_NE(content("config.ini"), "(none)");
 }
 
+class ProjectRestoreTest : public ProjectLifeTest {
+ protected:
+  const std::string kBackup = kShop + "\\Backup\\Shop.stp.";
+
+  static std::string backupText(int number) {
+    return "VERSION=107001\nNODE0=Home\nSTITLE=Backup " + std::to_string(number) + "\n";
+  }
+  void openWithBackups(std::initializer_list<int> numbers) {
+    LoadCurrent(t, "NODE0=Home\nSTITLE=On disk\n");
+    for (const int n : numbers) t.files.put(kBackup + std::to_string(n), backupText(n));
+    forgetRecords();
+  }
+};
+
+TEST_F(ProjectRestoreTest, OpensTheBackupUnderTheNameOfTheProject) {
+  openWithBackups({1, 2});
+  t.files.put(kBackup + "2", "TIME=5\nVERSION=107001\nNODE0=Old\nSTITLE=Old days\n");
+  EXPECT_TRUE(ProjectRestore(t.program, kBackup + "2"));
+  EXPECT_EQ(TreeText(project), "Old");
+  EXPECT_STREQ(project.storeTitle.get(), "Old days");
+  EXPECT_STREQ(project.projectFile.get(), kProjectPath);
+  EXPECT_EQ(t.files.content(kProjectPath), t.files.content(kBackup + "2"));
+  EXPECT_EQ(t.screen.tasks, std::vector<std::string>{"Varlo PRO: Loading store project. Please wait........"});
+  ExpectPlainTree(project);
+}
+
+TEST_F(ProjectRestoreTest, DoesNotRollAndLeavesTheSeries) {
+  openWithBackups({1, 2, 3});
+  ProjectRestore(t.program, kBackup + "2");
+  EXPECT_EQ(t.files.log, (std::vector<std::string>{"copy " + kBackup + "2 to " + kProjectPath}));
+  for (int n = 1; n <= 3; ++n) EXPECT_EQ(content(kBackup + std::to_string(n)), backupText(n));
+  EXPECT_EQ(t.files.search(kShop + "\\Backup\\*.*").size(), 3U) << "what was on disk is kept nowhere";
+}
+
+TEST_F(ProjectRestoreTest, LosesUnsavedChangesWithoutAQuestionOfItsOwn) {
+  openWithBackups({1});
+  AddCategory(project, "Unsaved");
+  project.storeTitle.assign("Unsaved");
+  project.dirty = 1;
+  EXPECT_TRUE(ProjectRestore(t.program, kBackup + "1"));
+  EXPECT_EQ(TreeText(project), "Home");
+  EXPECT_STREQ(project.storeTitle.get(), "Backup 1");
+  EXPECT_TRUE(t.screen.boxes.empty());
+}
+
+TEST_F(ProjectRestoreTest, ABackupWithoutATimeIsRestoredLikeAnyOther) {
+  openWithBackups({});
+  t.files.put(kShop + "\\Backup\\by hand", "VERSION=107001\nNODE0=By hand\n");
+  EXPECT_TRUE(ProjectRestore(t.program, kShop + "\\Backup\\by hand"));
+  EXPECT_EQ(TreeText(project), "By hand");
+}
+
+TEST_F(ProjectRestoreTest, ACopyThatFailsGoesUnnoticedAndTheOldFileIsShown) {
+  openWithBackups({});
+  AddCategory(project, "Unsaved");
+  EXPECT_FALSE(ProjectRestore(t.program, kBackup + "1"));
+  EXPECT_EQ(TreeText(project), "Home");
+  EXPECT_STREQ(project.storeTitle.get(), "On disk");
+  EXPECT_TRUE(t.screen.boxes.empty());
+}
+
+TEST_F(ProjectRestoreTest, WithNeitherBackupNorFileTheTreeIsMadeNew) {
+  openWithBackups({});
+  t.files.remove(kProjectPath);
+  EXPECT_FALSE(ProjectRestore(t.program, kBackup + "1"));
+  EXPECT_EQ(
+      t.screen.boxes,
+      (std::vector<ShownBox>{{std::string("S103: Unable to read project file '") + kProjectPath + "'", "Error"}}));
+  EXPECT_EQ(TreeText(project), "On disk");
+  ExpectPlainTree(project);
+}
+
 using DirectoryCreatePathTest = ProjectLifeTest;
 
 TEST_F(DirectoryCreatePathTest, MakesEveryLevel) {
