@@ -53,15 +53,15 @@ class BenchProgram {
   }
 
   // Load and save the project; throw std::runtime_error when the program reports anything.
-  void load() { check(ProjectLoad(program_)); }
+  void load() { check(ProjectLoad(program_) == 1); }
   void save() { check(ProjectSave(program_)); }
 
   [[nodiscard]] Program& program() { return program_; }
   [[nodiscard]] PosixFiles& files() { return files_; }
 
  private:
-  void check(int result) const {
-    if (result != 1 || screen_.boxes() > 0) throw std::runtime_error("The program reported an error.");
+  void check(bool done) const {
+    if (!done || screen_.boxes() > 0) throw std::runtime_error("The program reported an error.");
   }
 
   PosixFiles files_;

@@ -27,7 +27,7 @@ struct CommandArguments {
   int number = 0;     // of a backup
 };
 
-// Loads a project and saves it again; with an output the result goes to that file, and the project and
+// Loads a project and saves it again, with a backup; with an output the result goes to that file, and the project and
 // its templates stay untouched.
 int RunResave(Machine& machine, const CommandArguments& arguments);
 

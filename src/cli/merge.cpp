@@ -14,7 +14,7 @@ int changeProject(Machine& machine, const CommandArguments& arguments, Change ch
   if (!headless.load(arguments.project)) return kExitFailed;
   Program& program = headless.program();
   if (change(program, machine.files->nameOf(arguments.other)) != 1) return kExitFailed;
-  return SaveWithBackup(program) == 1 ? kExitDone : kExitFailed;
+  return SaveWithBackup(program) ? kExitDone : kExitFailed;
 }
 
 }  // namespace

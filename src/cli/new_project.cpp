@@ -38,7 +38,7 @@ int RunNew(Machine& machine, const CommandArguments& arguments) {
   if (ProjectCreate(program, name.c_str()) != 1) return kExitFailed;
   project.projectScheme = program.config.currentScheme;
   if (project.currency.isNull()) project.currency.assign("$");
-  if (ProjectSaveNow(program) != 1) return kExitFailed;
+  if (!ProjectSaveNow(program)) return kExitFailed;
   std::cout << TerminalText(project.projectFile.view()) << '\n';
   return kExitDone;
 }

@@ -1,6 +1,7 @@
 #include "cli/commands.h"
 #include "cli/guarded_files.h"
 #include "cli/headless_program.h"
+#include "persist/life/backup.h"
 #include "persist/project/project_save.h"
 
 namespace varlo {
@@ -9,7 +10,7 @@ namespace {
 int resaveInPlace(Machine& machine, const std::string& project) {
   HeadlessProgram headless(machine, *machine.files);
   if (!headless.load(project)) return kExitFailed;
-  return ProjectSave(headless.program()) == 1 ? kExitDone : kExitFailed;
+  return SaveWithBackup(headless.program()) ? kExitDone : kExitFailed;
 }
 
 }  // namespace
@@ -23,7 +24,7 @@ int RunResave(Machine& machine, const CommandArguments& arguments) {
   StoreProject& loaded = headless.program().project;
   loaded.projectFile.assign(std::string_view(target));
   loaded.projectDir.release();  // without it the save leaves the templates alone
-  return ProjectSave(headless.program()) == 1 ? kExitDone : kExitFailed;
+  return ProjectSave(headless.program()) ? kExitDone : kExitFailed;
 }
 
 }  // namespace varlo

@@ -42,6 +42,7 @@ holds install/Projects/Other/Other.stp 'LAYOUT=Varlo Default/Default'
 # Rewriting.
 run 0 --install install resave Projects/Shop/Shop.stp
 same $project first.stp
+same install/Projects/Shop/Backup/Shop.stp.1 first.stp
 run 0 --install install resave Projects/Shop/Shop.stp --output copy.stp
 same install/copy.stp first.stp
 run 2 --install install resave Projects/Shop/Gone.stp
@@ -84,6 +85,25 @@ run 0 --install install restore Projects/Shop/Shop.stp 2
 same $project first.stp
 run 2 --install install restore Projects/Shop/Shop.stp 7
 tells 'there is no backup 7'
+
+# A disk that takes no more, which a limit on the size of files stands in for. Wine's own files must not meet it.
+if [ $# -eq 0 ]; then
+  mkdir -p full/Template
+  { echo VERSION=107001; for i in $(seq 400); do printf 'NODE0=%s\nDESC=%0300d\n' "$i" 0; done; } >full/full.stp
+  cp full/full.stp whole.stp
+  limited() (
+    trap '' XFSZ
+    ulimit -f 80
+    exec "$work/start" "$@"
+  )
+  cli=limited
+  run 2 --install install resave "$work/full/full.stp" --output cut.stp
+  tells "cut.stp' could not be written completely."
+  same full/full.stp whole.stp
+  run 2 --install install resave "$work/full/full.stp"
+  tells "full.stp' could not be written completely."
+  cli=$work/start
+fi
 
 # What is missing in the installation is told and does not stop a command.
 run 0 dump "$work/$project"

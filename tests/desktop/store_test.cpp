@@ -103,7 +103,7 @@ TEST_F(DesktopStore, SavesWhatTheEngineSaves) {
   const std::string original = BytesOf(project);
   WithEngine(installation_, [](Program& program) {
     nodeTitled(program, "Black tea")->title.assign("Black tea, loose");
-    ProjectSave(program);
+    EXPECT_TRUE(ProjectSave(program));
   });
   const std::string expected = BytesOf(project);
   ASSERT_NE(expected, original);

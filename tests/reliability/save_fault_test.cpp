@@ -36,7 +36,9 @@ class FaultySave {
     files.put("scheme.ini", "old schemes");
     program.project.projectFile.assign(kShop);
     ProjectLoad(program);
+    program.project.dirty = 1;
     ChangeShop(program);
+    program.project.confirmTemplate.assign("confirm changed");
     before_ = contents();
     result = ProjectSaveNow(program);
   }
@@ -51,7 +53,7 @@ class FaultySave {
 
   FakeFiles files;
   FakeScreen screen;
-  int result = -1;
+  bool result = false;
 
  private:
   FixedClock clock_{kTestTime};
@@ -72,13 +74,24 @@ bool isInHand(const std::string& name, const std::string& inHand) {
          EqualsNoCase(std::string_view(name).substr(name.size() - inHand.size()), inHand);
 }
 
-// The one message that belongs to a failing creation of this file.
+// The one message that belongs to a failure at this file, empty for none.
 std::string messageFor(const std::string& operation, const std::string& path) {
+  const bool isConfig = path == "config.ini" || path == "scheme.ini";
+  if (operation == "write" && !isConfig) {
+    const std::string backup = path != kShop ? "" : "\r\n\r\nThe version saved before lies in '" + kBackup + "1'.";
+    return "The file '" + path +
+           "' could not be written completely.  The disk may be full: please make room and save " + "again." + backup;
+  }
   if (operation != "create") return "";
   if (path == kShop) return "S101: File Write Error";
   if (path == "config.ini") return "ERROR W114: Unable to open file 'drelk.ini'";
   if (path == "scheme.ini") return "ERROR W124: Unable to open file 'scheme.ini'";
   return "ERROR R106: Unable to open HTML output file";
+}
+
+// Whether the project does not count as saved: its file was not made, or a file of it was cut.
+bool isUnsaved(const std::string& message) {
+  return message.starts_with("S101") || message.starts_with("The file '");
 }
 
 void checkFault(int at, Failure failure, const std::set<std::string>& wholeContents) {
@@ -92,14 +105,15 @@ void checkFault(int at, Failure failure, const std::set<std::string>& wholeConte
   const std::string expected = messageFor(disk.failedOperation(), disk.failedPath());
   EXPECT_EQ(told, expected.empty() ? std::vector<std::string>{} : std::vector{expected});
   EXPECT_EQ(save.files.openHandles(), 0U);
-  EXPECT_EQ(save.result, expected == "S101: File Write Error" ? 0 : 1);
+  EXPECT_EQ(save.result, !isUnsaved(expected));
+  EXPECT_EQ(save.program.project.dirty, isUnsaved(expected) ? 1 : 0);
 
   // Every other file is whole: as it was, or as an undisturbed save leaves it.
   for (const auto& [name, content] : save.contents()) {
     const bool inHand = isInHand(name, disk.failedPath());
     EXPECT_TRUE(inHand || wholeContents.contains(content)) << name;
   }
-  // And none but the oldest backup and the form templates, which are written anew, may go.
+  // And none but the oldest backup, and a form template that was changed, may go.
   for (const auto& [name, content] : save.before()) {
     const bool mayGo = name == kBackup + "10" || name == kBackup + "1" || isInHand(name, disk.failedPath());
     EXPECT_TRUE(mayGo || save.files.content(name).has_value()) << name;

@@ -1,5 +1,5 @@
 // The saving process is killed at every write and file operation in turn: afterwards the project's file
-// or its newest backup is whole.
+// or its newest backup is whole, and the form templates, which nobody changed, are there.
 
 #include <csignal>
 #include <filesystem>
@@ -78,11 +78,14 @@ class SaveKill : public testing::TestWithParam<Failure> {
     return folder / "Projects" / "Shop" / "Backup" / ("Shop.stp." + std::to_string(number));
   }
 
+  [[nodiscard]] fs::path form(const char* name) const { return folder / "Projects" / "Shop" / "Template" / name; }
+
   void makeShop() {
     fs::remove_all(folder);
     put(shop(), ShopText("0"));
     for (int i = 1; i <= 10; ++i) put(backup(i), ShopText(std::to_string(i)));
-    put(folder / "Projects" / "Shop" / "Template" / "order.htm", "order");
+    put(form("order.htm"), "order");
+    put(form("confirm.htm"), "confirm");
     put(folder / "config.ini", "old");
   }
 
@@ -133,6 +136,8 @@ TEST_P(SaveKill, TheFileOrItsNewestBackupIsWholeAtEveryPoint) {
     const bool file = loadsInFull(shop());
     EXPECT_TRUE(file || loadsInFull(backup(1))) << "point " << at;
     if (!file) ++onlyBackup;
+    EXPECT_EQ(content(form("order.htm")), "order") << "point " << at;
+    EXPECT_EQ(content(form("confirm.htm")), "confirm") << "point " << at;
   }
   std::cout << points << " points of death in a save, " << onlyBackup << " of them saved by the backup\n";
   EXPECT_GT(onlyBackup, 0);

@@ -38,6 +38,10 @@ inline constexpr std::string_view kSavingProject = "Saving store project. Please
 inline constexpr std::string_view kProjectWriteError = "S101: File Write Error";
 inline constexpr std::string_view kProjectReadError = "S103: Unable to read project file '%s'";
 inline constexpr std::string_view kTemplateWriteError = "ERROR S104: Saving template file";
+// What nothing else tells of: a file that lost its end, and where the state before it lies.
+inline constexpr std::string_view kFileIncomplete =
+    "The file '%s' could not be written completely.  The disk may be full: please make room and save again.";
+inline constexpr std::string_view kNewestBackup = "\r\n\r\nThe version saved before lies in '%s'.";
 inline constexpr std::string_view kPageWriteError = "ERROR R106: Unable to open HTML output file";
 
 inline constexpr std::string_view kProjectOpenError = "ERROR S105: Unable to open project file";

@@ -96,13 +96,14 @@ void ContinueAfterUpgrade(Program& program, const std::function<void(Program&, c
   if (!program.project.projectFile.isSet()) program.screen.postCommand(Command::NewStore);
 }
 
-int AskToSave(Program& program, const std::function<int(Program&)>& saveWithBackup) {
-  if (program.project.dirty == 0) return -1;
+PromptResult AskToSave(Program& program, const std::function<bool(Program&)>& saveWithBackup) {
+  if (program.project.dirty == 0) return PromptResult::Unasked;
   const Answer answer = program.screen.messageBox({.text = message::kSavePrompt,
                                                    .title = message::kSavePromptTitle,
                                                    .buttons = Buttons::YesNo,
                                                    .icon = Icon::Question});
-  return answer == Answer::Yes ? saveWithBackup(program) : -1;
+  if (answer != Answer::Yes) return PromptResult::Unasked;
+  return saveWithBackup(program) ? PromptResult::Saved : PromptResult::Failed;
 }
 
 void ShutDown(Program& program, const ShutDownSteps& steps) {

@@ -41,14 +41,16 @@ void ContinueAfterUpgrade(Program& program, const std::function<void(Program&, c
 
 // What shut-down runs.
 struct ShutDownSteps {
-  std::function<int(Program&)> saveWithBackup{};  // rolling backup, then save
+  std::function<bool(Program&)> saveWithBackup{};  // rolling backup, then save
   std::function<void(Program&)> stopBuild{};
   std::function<void(Program&)> saveConfig{};  // config.ini and scheme.ini
 };
 
-// Asks to save a changed project, and saves it on Yes. Gives the result of the save, -1 when nothing was
-// to be saved or the answer was not Yes.
-int AskToSave(Program& program, const std::function<int(Program&)>& saveWithBackup);
+// What became of the question whether to save: Unasked also stands for any answer but Yes.
+enum class PromptResult { Unasked, Failed, Saved };
+
+// Asks to save a changed project, and saves it on Yes.
+PromptResult AskToSave(Program& program, const std::function<bool(Program&)>& saveWithBackup);
 
 // Quit: asks, then clears `dirty`.
 void ShutDown(Program& program, const ShutDownSteps& steps);

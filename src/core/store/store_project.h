@@ -33,6 +33,7 @@ struct StoreProject {
 
   Text projectFile;  // full path of the .stp file; null when no project is open
   Text projectDir;   // projectFile up to its last back slash
+  Text cutFile;      // what the last save could not write completely; no backup is made of it
   Text webDir;       // target of the build
   Text storeTitle;
   TaxSettings tax;

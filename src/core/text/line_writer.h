@@ -18,7 +18,7 @@ namespace varlo {
 class LineWriter {
  public:
   // Writes to an open file, which the caller closes behind this object; kNoFile takes nothing. What was
-  // collected goes out when the object ends. Nobody looks at the results of the writes.
+  // collected goes out when the object ends. Only those look at the results of the writes who ask finish().
   LineWriter(Files& files, FileHandle file)
       : files_(files), file_(file), buffer_(std::make_unique_for_overwrite<char[]>(kBuffer)), at_(buffer_.get()) {}
   ~LineWriter() { flush(); }
@@ -52,6 +52,11 @@ class LineWriter {
     add(std::string_view(digits.data(), static_cast<std::size_t>(end - digits.data())));
   }
   void flush();
+  // Lets out what was collected; whether all of the text so far went out.
+  [[nodiscard]] bool finish() {
+    flush();
+    return !lost_;
+  }
 
  private:
   static constexpr std::size_t kBuffer = 64 * 1024;
@@ -64,6 +69,7 @@ class LineWriter {
   // which stalls on every piece.
   char* at_;
   char* cut_ = nullptr;  // end of the room of the running piece
+  bool lost_ = false;    // a write took less than it was given
 };
 
 // Writes the values one behind the other: texts (an absent one is empty) and decimal numbers. More than

@@ -16,9 +16,6 @@ struct BackupEntry {
   std::uint32_t size = 0;  // low 32 bits
 };
 
-// Backups are numbered from 1, the newest, to this.
-inline constexpr int kBackups = 10;
-
 // Moves the backups of the open project up by one and copies its file to the first place. Gives the
 // result of that copy: 1 or 0; 0 with no project. Nothing else is told of what fails.
 int BackupRoll(Program& program);
@@ -27,6 +24,6 @@ int BackupRoll(Program& program);
 [[nodiscard]] std::vector<BackupEntry> BackupListRead(Program& program);
 
 // What every save of the user's is: the rolling backup, then the project. Gives the result of the save.
-int SaveWithBackup(Program& program);
+[[nodiscard]] bool SaveWithBackup(Program& program);
 
 }  // namespace varlo

@@ -10,6 +10,7 @@
 #include "persist/life/template_set.h"
 #include "persist/project/project_load.h"
 #include "persist/project/project_paths.h"
+#include "persist/project/template_files.h"
 
 namespace varlo {
 namespace {
@@ -119,10 +120,10 @@ int ProjectOpenDialog(Program& program) {
   return ProjectOpenPath(program, *path, false);
 }
 
-int SavePrompt(Program& program) { return AskToSave(program, SaveWithBackup); }
+PromptResult SavePrompt(Program& program) { return AskToSave(program, SaveWithBackup); }
 
-int ProjectSaveNow(Program& program) {
-  const int result = SaveWithBackup(program);
+bool ProjectSaveNow(Program& program) {
+  const bool result = SaveWithBackup(program);
   ConfigSave(program);
   return result;
 }
@@ -130,6 +131,7 @@ int ProjectSaveNow(Program& program) {
 bool ProjectRestore(Program& program, const std::string& backup) {
   const std::string target(program.project.projectFile.view());
   const bool copied = program.files.copy(backup, target, true);
+  if (copied) program.project.cutFile.release();
   ProjectOpenPath(program, target, true);
   return copied;
 }

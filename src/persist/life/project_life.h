@@ -7,6 +7,7 @@
 
 namespace varlo {
 
+enum class PromptResult;
 struct Program;
 
 // Makes the project "Projects\N" of the installation, with its folders, a root and the shipped
@@ -32,11 +33,11 @@ std::optional<std::string> ChooseProjectFile(Program& program, std::string_view 
 // opened.
 int ProjectOpenDialog(Program& program);
 
-// Offers to save a changed project. Gives the result of the save, -1 when nothing was saved.
-int SavePrompt(Program& program);
+// Offers to save a changed project, and saves it with a backup on Yes.
+PromptResult SavePrompt(Program& program);
 
 // The Save command: rolling backup, project, configuration. Gives the result of the project's save.
-int ProjectSaveNow(Program& program);
+bool ProjectSaveNow(Program& program);
 
 // Copies a backup over the project's file, which is not kept, and opens it. Gives whether the copy
 // worked; the project is opened again in any case.

@@ -10,15 +10,10 @@
 #include "persist/project/project_migrate.h"
 #include "persist/project/project_parse.h"
 #include "persist/project/project_paths.h"
+#include "persist/project/template_files.h"
 
 namespace varlo {
 namespace {
-
-void readTemplate(Program& program, int slot, std::string_view fileName, Text& text) {
-  FileReadToSlot(program, slot, ProjectTemplatePath(program.project, fileName), false);
-  const TextSlot& read = program.slots[static_cast<std::size_t>(slot)];
-  if (read.hasMemory()) text.assign(read.text());
-}
 
 void refreshView(Program& program) {
   ShowProjectTitle(program);
@@ -60,11 +55,6 @@ int ProjectLoad(Program& program) {
     WaitCursorOff(program);
     return result;
   });
-}
-
-void ProjectReadTemplates(Program& program) {
-  readTemplate(program, kSlotOrderForm, kOrderTemplateName, program.project.orderTemplate);
-  readTemplate(program, kSlotConfirmation, kConfirmTemplateName, program.project.confirmTemplate);
 }
 
 }  // namespace varlo

@@ -10,8 +10,4 @@ struct Program;
 // tree that was open stays.
 int ProjectLoad(Program& program);
 
-// Fills the texts of the two form templates from the project's template folder; a missing file gives
-// what its slot held before.
-void ProjectReadTemplates(Program& program);
-
 }  // namespace varlo

@@ -2,12 +2,22 @@
 
 #include "core/program/messages.h"
 #include "core/program/program.h"
+#include "core/text/number_text.h"
 #include "core/text/paths.h"
 
 namespace varlo {
 
 std::string ProjectTemplatePath(const StoreProject& project, std::string_view fileName) {
   return std::string(project.projectDir.view()).append("\\template\\").append(fileName);
+}
+
+std::string BackupFolder(const StoreProject& project) {
+  return SingleBackSlashes(std::string(project.projectDir.view()).append("\\Backup"));
+}
+
+std::string BackupPath(const StoreProject& project, int number) {
+  std::string path = BackupFolder(project);
+  return path.append("\\").append(PathName(project.projectFile.view())).append(".").append(IntToText(number));
 }
 
 void ProjectDirFromFile(StoreProject& project) {

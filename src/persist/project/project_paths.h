@@ -15,6 +15,13 @@ inline constexpr std::string_view kConfirmTemplateName = "confirm.htm";
 // Path of a file in the template folder of the project.
 [[nodiscard]] std::string ProjectTemplatePath(const StoreProject& project, std::string_view fileName);
 
+// Backups are numbered from 1, the newest, to this.
+inline constexpr int kBackups = 10;
+
+// The folder of the project's backups, and the backup with this number, from 1 for the newest.
+[[nodiscard]] std::string BackupFolder(const StoreProject& project);
+[[nodiscard]] std::string BackupPath(const StoreProject& project, int number);
+
 // Makes projectDir follow projectFile: the path up to its last back slash, or, without one, the whole
 // name. Null follows null.
 void ProjectDirFromFile(StoreProject& project);

@@ -17,6 +17,7 @@
 #include "core/tree/store_tree.h"
 #include "persist/project/node_keys.h"
 #include "persist/project/project_paths.h"
+#include "persist/project/template_files.h"
 
 namespace varlo {
 namespace {
@@ -110,37 +111,43 @@ void writeSettings(const StoreProject& project, LineWriter& writer, std::string&
   }
 }
 
-// "Set" is not null here: an empty form template is written too.
-void saveFormTemplate(Program& program, const Text& text, std::string_view fileName) {
-  const Text& folder = program.project.projectDir;
-  if (text.isNull() || folder.isNull()) return;
-  TemplateSaveFile(program, ProjectTemplatePath(program.project, fileName), text.view());
+bool writeWhole(Program& program, FileHandle file) {
+  LineWriter writer(program.files, file);
+  ProjectWrite(program, writer);
+  return writer.finish();
 }
 
-int saveProject(Program& program) {
-  {
-    OpenFile file(program.files, program.files.create(program.project.projectFile.view()));
-    if (!file.isOpen()) {
-      ErrorBox(program, message::kProjectWriteError);
-      return 0;
-    }
-    LineWriter writer(program.files, file.handle());
-    ProjectWrite(program, writer);
+// Empty when there is none.
+std::string newestBackup(Program& program) {
+  if (program.project.projectDir.isNull()) return {};
+  for (int number = 1; number <= kBackups; ++number) {
+    std::string path = BackupPath(program.project, number);
+    if (FileExists(program.files, path) == 1) return path;
   }
-  saveFormTemplate(program, program.project.orderTemplate, kOrderTemplateName);
-  saveFormTemplate(program, program.project.confirmTemplate, kConfirmTemplateName);
-  SetDirty(program, 0);
-  return 1;
+  return {};
 }
 
-// Deletes the file and writes it anew, in one write; false when it can't be created.
-bool writeTemplate(Program& program, std::string_view path, std::string_view text) {
-  const std::string single = SingleBackSlashes(path);
-  program.files.remove(single);
-  OpenFile file(program.files, program.files.create(single));
-  if (!file.isOpen()) return false;
-  program.files.write(file.handle(), text.data(), text.size());
-  return true;
+void tellIncomplete(Program& program) {
+  std::string text = FillMessage(message::kFileIncomplete, program.project.projectFile.view());
+  const std::string backup = newestBackup(program);
+  if (!backup.empty()) text.append(FillMessage(message::kNewestBackup, backup));
+  ErrorBox(program, text);
+}
+
+bool saveProject(Program& program) {
+  StoreProject& project = program.project;
+  OpenFile file(program.files, program.files.create(project.projectFile.view()));
+  if (!file.isOpen()) {
+    ErrorBox(program, message::kProjectWriteError);
+    return false;
+  }
+  const bool whole = writeWhole(program, file.handle());
+  file.close();
+  const bool formsWhole = FormTemplatesSave(program);
+  project.cutFile = whole ? Text() : project.projectFile;
+  if (!whole) tellIncomplete(program);
+  SetDirty(program, whole && formsWhole ? 0 : 1);
+  return whole && formsWhole;
 }
 
 }  // namespace
@@ -160,28 +167,15 @@ void ProjectWrite(Program& program, LineWriter& writer) {
   writeSettings(project, writer, scratch);
 }
 
-int ProjectSave(Program& program) {
-  if (!program.project.projectFile.isSet()) return 0;
-  return program.screen.runTask(kProductName, message::kSavingProject, [&] {
+bool ProjectSave(Program& program) {
+  if (!program.project.projectFile.isSet()) return false;
+  const int saved = program.screen.runTask(kProductName, message::kSavingProject, [&] {
     WaitCursorOn(program);
-    const int result = saveProject(program);
+    const bool result = saveProject(program);
     WaitCursorOff(program);
-    return result;
+    return result ? 1 : 0;
   });
-}
-
-int TemplateSave(Program& program, const StoreNode& node, std::string_view text) {
-  const std::string_view name =
-      node.templateName.isSet() ? node.templateName.view() : TraitsOf(node.kind).defaultTemplate;
-  if (writeTemplate(program, ProjectTemplatePath(program.project, name), text)) return 1;
-  ErrorBox(program, message::kTemplateWriteError);
-  return 0;
-}
-
-int TemplateSaveFile(Program& program, std::string_view path, std::string_view text) {
-  if (writeTemplate(program, path, text)) return 1;
-  ErrorBox(program, message::kPageWriteError);
-  return 0;
+  return saved == 1;
 }
 
 }  // namespace varlo

@@ -20,7 +20,7 @@ class StartUpTest : public testing::Test {
       .saveWithBackup =
           [this](Program&) {
             order.emplace_back("save");
-            return 1;
+            return true;
           },
       .stopBuild = [this](Program&) { order.emplace_back("stop"); },
       .saveConfig = [this](Program&) { order.emplace_back("config"); },
@@ -215,7 +215,7 @@ TEST_F(StartUpTest, ExitWithDirtySetAndNoWritesOnlyTheConfiguration) {
 }
 
 TEST_F(StartUpTest, AnUnchangedProjectIsNotAskedAbout) {
-  EXPECT_EQ(AskToSave(t.program, shutDown.saveWithBackup), -1);
+  EXPECT_EQ(AskToSave(t.program, shutDown.saveWithBackup), PromptResult::Unasked);
   EXPECT_TRUE(t.screen.boxes.empty());
 }
 

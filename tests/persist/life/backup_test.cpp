@@ -4,6 +4,7 @@
 
 #include "persist/life/project_life.h"
 #include "platform/files_wrapper.h"
+#include "tests/support/failing_files.h"
 #include "tests/support/project_text.h"
 #include "tests/support/tree.h"
 
@@ -166,7 +167,7 @@ TEST_F(BackupTest, ASaveGoesOnWithoutItsBackup) {
   openWithBackups({});
   t.files.shallFail = [](const std::string& operation) { return operation.starts_with("makeFolder"); };
   project.storeTitle.assign("After");
-  EXPECT_EQ(ProjectSaveNow(t.program), 1);
+  EXPECT_TRUE(ProjectSaveNow(t.program));
   EXPECT_EQ(titleIn(kProjectPath), "After");
   EXPECT_TRUE(t.screen.boxes.empty());
 }
@@ -268,6 +269,78 @@ TEST_F(BackupTest, ADoubledBackSlashInThePathOfTheFolderIsReduced) {
   program.project.projectDir.assign("C:\\");
   BackupRoll(program);
   EXPECT_EQ(raw.folders, std::vector<std::string>{"C:\\Backup"});
+}
+
+// The copy is the last of the twelve operations of a roll.
+TEST_F(BackupTest, ACopyThatBreaksOffIsTakenAway) {
+  openWithBackups({1, 2});
+  FailingFiles disk(t.files, 12, Failure::NoSpace);
+  Program program(disk, t.clock, t.screen, t.clipboard, t.view);
+  program.project.projectFile = project.projectFile;
+  program.project.projectDir = project.projectDir;
+  EXPECT_EQ(BackupRoll(program), 0);
+  ASSERT_EQ(disk.failedOperation(), "copy");
+  EXPECT_EQ(titleIn(kBackup + "1"), "(no file)");
+  EXPECT_EQ(titleIn(kBackup + "2"), "Backup 1");
+}
+
+class FullDiskTest : public BackupTest {
+ protected:
+  // Saves a changed title while nothing more goes into the project's file.
+  bool saveOnFullDisk(const std::string& title) {
+    project.storeTitle.assign(std::string_view(title));
+    t.files.shallFail = [](const std::string& operation) {
+      return operation == std::string("write ") + kProjectPath;
+    };
+    const bool saved = SaveWithBackup(t.program);
+    t.files.shallFail = nullptr;
+    return saved;
+  }
+};
+
+TEST_F(FullDiskTest, TheMessageNamesTheBackupThatHoldsTheStateBefore) {
+  openWithBackups({1});
+  EXPECT_FALSE(saveOnFullDisk("Lost"));
+  EXPECT_EQ(titleIn(kProjectPath), "(no title)");
+  EXPECT_EQ(titleIn(kBackup + "1"), "On disk");
+  ASSERT_EQ(t.screen.boxes.size(), 1U);
+  EXPECT_NE(t.screen.boxes[0].text.find("'" + kBackup + "1'"), std::string::npos);
+}
+
+TEST_F(FullDiskTest, TryingAgainAndAgainDoesNotPushTheBackupsOut) {
+  openWithBackups({1});
+  for (int i = 0; i < 12; ++i) EXPECT_FALSE(saveOnFullDisk("Lost"));
+  EXPECT_EQ(titleIn(kBackup + "1"), "On disk");
+  EXPECT_EQ(titleIn(kBackup + "2"), "Backup 1");
+  EXPECT_EQ(t.files.search(kFolder + "\\*.*").size(), 2U);
+}
+
+TEST_F(FullDiskTest, BackupsGoOnAfterASaveThatSucceeds) {
+  openWithBackups({});
+  EXPECT_FALSE(saveOnFullDisk("Lost"));
+  saveAs("Saved");
+  EXPECT_EQ(titleIn(kBackup + "1"), "On disk");
+  saveAs("Next");
+  EXPECT_EQ(titleIn(kBackup + "1"), "Saved");
+  EXPECT_EQ(titleIn(kBackup + "2"), "On disk");
+}
+
+TEST_F(FullDiskTest, AProjectOfAnotherNameHasItsBackups) {
+  openWithBackups({});
+  EXPECT_FALSE(saveOnFullDisk("Lost"));
+  t.files.put("Projects\\Other\\Other.stp", stateText("Other on disk"));
+  ProjectOpenPath(t.program, "C:\\Varlo\\Projects\\Other\\Other.stp", false);
+  saveAs("Other");
+  EXPECT_EQ(titleIn("C:\\Varlo\\Projects\\Other\\Backup\\Other.stp.1"), "Other on disk");
+}
+
+TEST_F(FullDiskTest, ARestoredProjectHasItsBackups) {
+  openWithBackups({});
+  EXPECT_FALSE(saveOnFullDisk("Lost"));
+  EXPECT_TRUE(ProjectRestore(t.program, kBackup + "1"));
+  saveAs("Saved");
+  EXPECT_EQ(titleIn(kBackup + "1"), "On disk");
+  EXPECT_EQ(titleIn(kBackup + "2"), "On disk");
 }
 
 }  // namespace

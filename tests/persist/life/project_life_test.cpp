@@ -200,7 +200,7 @@ TEST_F(ProjectCreateTest, TheProjectFileIsNotThereBeforeTheFirstSave) {
   project.storeTitle.assign("Toys");
   ProjectCreate(t.program, "Shop");
   EXPECT_EQ(content(kProjectPath), "(none)");
-  EXPECT_EQ(ProjectSaveNow(t.program), 1);
+  EXPECT_TRUE(ProjectSaveNow(t.program));
   EXPECT_THAT(content(kProjectPath), testing::HasSubstr("\nNODE0=Toys\n"));
 }
 
@@ -446,7 +446,7 @@ TEST_F(ProjectOpenPathTest, AfterAFailureASaveHasNoFileAndTheNextOpenWorks) {
   const std::string before = content(kProjectPath);
   ProjectOpenPath(t.program, "C:\\gone.stp", false);
   AddCategory(project, "Unsaved");
-  EXPECT_EQ(ProjectSaveNow(t.program), 0);
+  EXPECT_FALSE(ProjectSaveNow(t.program));
   EXPECT_EQ(content(kProjectPath), before);
   EXPECT_EQ(ProjectOpenPath(t.program, kProjectPath, false), 1);
   EXPECT_EQ(TreeText(project), "Home");
@@ -599,28 +599,28 @@ using SavePromptTest = SavingTest;
 
 TEST_F(SavePromptTest, AnUnchangedProjectIsNotAskedAbout) {
   project.dirty = 0;
-  EXPECT_EQ(SavePrompt(t.program), -1);
+  EXPECT_EQ(SavePrompt(t.program), PromptResult::Unasked);
   EXPECT_THAT(t.screen.boxes, IsEmpty());
   EXPECT_EQ(content(kProjectPath), before);
 }
 
 TEST_F(SavePromptTest, NoLeavesEverythingAsItIs) {
   t.screen.answers = {Answer::No};
-  EXPECT_EQ(SavePrompt(t.program), -1);
+  EXPECT_EQ(SavePrompt(t.program), PromptResult::Unasked);
   EXPECT_THAT(t.screen.boxes, ElementsAre(kSaveQuestion));
   expectUnsaved();
 }
 
 TEST_F(SavePromptTest, AnythingButYesIsNo) {
   t.screen.answers = {Answer::Cancel, Answer::Ok};
-  EXPECT_EQ(SavePrompt(t.program), -1);
-  EXPECT_EQ(SavePrompt(t.program), -1);
+  EXPECT_EQ(SavePrompt(t.program), PromptResult::Unasked);
+  EXPECT_EQ(SavePrompt(t.program), PromptResult::Unasked);
   expectUnsaved();
 }
 
 TEST_F(SavePromptTest, YesMakesTheBackupAndSaves) {
   t.screen.answers = {Answer::Yes};
-  EXPECT_EQ(SavePrompt(t.program), 1);
+  EXPECT_EQ(SavePrompt(t.program), PromptResult::Saved);
   EXPECT_THAT(t.screen.boxes, ElementsAre(kSaveQuestion));
   expectSavedWithBackup();
   EXPECT_EQ(content("config.ini"), "(none)") << "only the Save command writes the configuration";
@@ -629,7 +629,7 @@ TEST_F(SavePromptTest, YesMakesTheBackupAndSaves) {
 TEST_F(SavePromptTest, GivesTheResultOfASaveThatFails) {
   failAt("create");
   t.screen.answers = {Answer::Yes};
-  EXPECT_EQ(SavePrompt(t.program), 0);
+  EXPECT_EQ(SavePrompt(t.program), PromptResult::Failed);
   EXPECT_THAT(t.screen.boxes, ElementsAre(kSaveQuestion, kWriteError));
   EXPECT_EQ(project.dirty, 1);
 }
@@ -637,14 +637,14 @@ TEST_F(SavePromptTest, GivesTheResultOfASaveThatFails) {
 TEST_F(SavePromptTest, WithoutAFileYesSavesNothing) {
   project.projectFile.release();
   t.screen.answers = {Answer::Yes};
-  EXPECT_EQ(SavePrompt(t.program), 0);
+  EXPECT_EQ(SavePrompt(t.program), PromptResult::Failed);
   expectUnsaved();
 }
 
 using ProjectSaveNowTest = SavingTest;
 
 TEST_F(ProjectSaveNowTest, MakesTheBackupSavesAndWritesTheConfiguration) {
-  EXPECT_EQ(ProjectSaveNow(t.program), 1);
+  EXPECT_TRUE(ProjectSaveNow(t.program));
   expectSavedWithBackup();
   EXPECT_THAT(content("config.ini"), testing::HasSubstr(std::string("\nfile=") + kProjectPath + "\n"));
   EXPECT_NE(content("scheme.ini"), "(none)");
@@ -665,7 +665,7 @@ TEST_F(ProjectSaveNowTest, TheBackupComesFirstTheConfigurationLast) {
 
 TEST_F(ProjectSaveNowTest, AnUnchangedProjectIsSavedToo) {
   project.dirty = 0;
-  EXPECT_EQ(ProjectSaveNow(t.program), 1);
+  EXPECT_TRUE(ProjectSaveNow(t.program));
   expectSavedWithBackup();
 }
 
@@ -676,7 +676,7 @@ TEST_F(ProjectSaveNowTest, RefreshesTheCommands) {
 
 TEST_F(ProjectSaveNowTest, WithoutAProjectOnlyTheConfigurationIsWritten) {
   TestProgram empty;
-  EXPECT_EQ(ProjectSaveNow(empty.program), 0);
+  EXPECT_FALSE(ProjectSaveNow(empty.program));
   EXPECT_THAT(empty.files.names(), ElementsAre("C:\\Varlo\\config.ini", "C:\\Varlo\\scheme.ini"));
   EXPECT_THAT(empty.screen.boxes, IsEmpty());
   EXPECT_THAT(empty.screen.tasks, IsEmpty());
@@ -685,7 +685,7 @@ TEST_F(ProjectSaveNowTest, WithoutAProjectOnlyTheConfigurationIsWritten) {
 
 TEST_F(ProjectSaveNowTest, ASaveThatFailsIsToldAndTheConfigurationIsWrittenAllTheSame) {
   failAt(std::string("create ") + kProjectPath);
-  EXPECT_EQ(ProjectSaveNow(t.program), 0);
+  EXPECT_FALSE(ProjectSaveNow(t.program));
   EXPECT_THAT(t.screen.boxes, ElementsAre(kWriteError));
   EXPECT_EQ(project.dirty, 1);
   EXPECT_NE(content("config.ini"), "(none)");

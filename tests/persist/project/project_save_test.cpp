@@ -173,7 +173,7 @@ TEST_F(ProjectSaveTest, TheCountGoesByLists) {
 
 TEST_F(ProjectSaveTest, WithoutAProjectFileNothingHappens) {
   project.dirty = 1;
-  EXPECT_EQ(ProjectSave(t.program), 0);
+  EXPECT_FALSE(ProjectSave(t.program));
   EXPECT_TRUE(t.files.log.empty());
   EXPECT_TRUE(t.screen.tasks.empty());
   EXPECT_EQ(project.dirty, 1);
@@ -188,74 +188,72 @@ TEST_F(ProjectSaveTest, RunsInItsDialogWithTheWaitCursor) {
 TEST_F(ProjectSaveTest, AFileThatCannotBeCreatedIsToldAndStaysDirty) {
   project.dirty = 1;
   project.projectFile.assign("C:\\nowhere\\a.stp");
-  EXPECT_EQ(ProjectSave(t.program), 0);
+  EXPECT_FALSE(ProjectSave(t.program));
   ASSERT_EQ(t.screen.boxes.size(), 1U);
   EXPECT_EQ(t.screen.boxes[0], (ShownBox{"S101: File Write Error", "Error", Buttons::Ok, Icon::None}));
   EXPECT_EQ(project.dirty, 1);
 }
 
-TEST_F(ProjectSaveTest, AFailingWriteIsNotNoticed) {
+// A disk that is full: the first `writes` writes to the project's file go through, what comes behind is lost.
+void fillDisk(TestProgram& t, int writes) {
+  t.files.shallFail = [writes](const std::string& operation) mutable {
+    return operation == std::string("write ") + kProjectPath && writes-- <= 0;
+  };
+}
+
+TEST_F(ProjectSaveTest, AFileThatLosesItsEndIsToldAndStaysDirty) {
   AddCategory(project, "a");
-  project.dirty = 1;
-  project.projectFile.assign(kProjectPath);
-  t.files.putFolder("C:\\Varlo\\Projects\\Shop");
-  t.files.shallFail = [](const std::string& operation) { return operation.starts_with("write"); };
-  EXPECT_EQ(ProjectSave(t.program), 1);
-  EXPECT_EQ(t.files.content(kProjectPath), "");
-  EXPECT_EQ(project.dirty, 0);
-  EXPECT_TRUE(t.screen.boxes.empty());
-}
-
-TEST_F(ProjectSaveTest, FormTemplatesAreWrittenWhenTheyAndTheFolderAreKnown) {
   project.projectDir.assign("C:\\Varlo\\Projects\\Shop");
   project.orderTemplate.assign("order");
-  project.confirmTemplate.assign("");
-  SaveText(t);
-  EXPECT_EQ(t.files.content("Projects\\Shop\\Template\\order.htm"), "order");
-  EXPECT_EQ(t.files.content("Projects\\Shop\\Template\\confirm.htm"), "");
-}
-
-TEST_F(ProjectSaveTest, WithoutAFolderTheFormTemplatesStay) {
-  project.orderTemplate.assign("order");
-  SaveText(t);
-  EXPECT_EQ(t.files.names(), std::vector<std::string>{kProjectPath});
-}
-
-TEST_F(ProjectSaveTest, AFormTemplateThatCannotBeWrittenIsToldAndTheSaveGoesOn) {
   project.dirty = 1;
-  project.projectDir.assign("C:\\gone");
-  project.orderTemplate.assign("order");
-  SaveText(t);
-  ASSERT_EQ(t.screen.boxes.size(), 1U);
-  EXPECT_EQ(t.screen.boxes[0].text, "ERROR R106: Unable to open HTML output file");
-  EXPECT_EQ(project.dirty, 0);
-}
-
-TEST_F(ProjectSaveTest, TemplateSaveFileReducesDoubledBackSlashes) {
-  EXPECT_EQ(TemplateSaveFile(t.program, "C:\\\\Varlo\\\\\\a.htm", "x"), 1);
-  EXPECT_EQ(t.files.log, (std::vector<std::string>{"remove C:\\Varlo\\a.htm", "create C:\\Varlo\\a.htm",
-                                                   "write C:\\Varlo\\a.htm"}));
-}
-
-TEST_F(ProjectSaveTest, TemplateSaveGoesToTheNodesTemplateOrTheDefaultOfItsKind) {
-  project.projectDir.assign("C:\\Varlo\\Projects\\Shop");
+  fillDisk(t, 0);
   t.files.putFolder("C:\\Varlo\\Projects\\Shop\\Template");
-  StoreNode* node = AddNode(project, NodeKind::Shelf, "s");
-  EXPECT_EQ(TemplateSave(t.program, *node, "a"), 1);
-  EXPECT_EQ(t.files.content("Projects\\Shop\\Template\\shelf.htm"), "a");
-  node->templateName.assign("");
-  EXPECT_EQ(TemplateSave(t.program, *node, "b"), 1);
-  EXPECT_EQ(t.files.content("Projects\\Shop\\Template\\shelf.htm"), "b");
-  node->templateName.assign("own.htm");
-  EXPECT_EQ(TemplateSave(t.program, *node, "c"), 1);
-  EXPECT_EQ(t.files.content("Projects\\Shop\\Template\\own.htm"), "c");
+  project.projectFile.assign(kProjectPath);
+  EXPECT_FALSE(ProjectSave(t.program));
+  EXPECT_EQ(t.files.content(kProjectPath), "");
+  EXPECT_EQ(project.dirty, 1);
+  ASSERT_EQ(t.screen.boxes.size(), 1U);
+  EXPECT_EQ(t.screen.boxes[0].title, "Error");
+  EXPECT_EQ(t.screen.boxes[0].text, std::string("The file '") + kProjectPath +
+                                        "' could not be written completely.  The disk may be full: please make "
+                                        "room and save again.");
+  EXPECT_EQ(t.files.content("Projects\\Shop\\Template\\order.htm"), "order") << "the save goes on to its end";
 }
 
-TEST_F(ProjectSaveTest, TemplateSaveThatFailsHasItsOwnMessage) {
-  project.projectDir.assign("C:\\gone");
-  EXPECT_EQ(TemplateSave(t.program, *AddProduct(project, "p"), "a"), 0);
+TEST_F(ProjectSaveTest, TheMessageOfALostEndNamesTheNewestBackup) {
+  project.projectDir.assign("C:\\Varlo\\Projects\\Shop");
+  t.files.put("Projects\\Shop\\Backup\\Shop.stp.2", "two");
+  t.files.put("Projects\\Shop\\Backup\\Shop.stp.3", "three");
+  fillDisk(t, 0);
+  SaveText(t);
   ASSERT_EQ(t.screen.boxes.size(), 1U);
-  EXPECT_EQ(t.screen.boxes[0].text, "ERROR S104: Saving template file");
+  EXPECT_THAT(t.screen.boxes[0].text, testing::EndsWith("\r\n\r\nThe version saved before lies in "
+                                                        "'C:\\Varlo\\Projects\\Shop\\Backup\\Shop.stp.2'."));
+}
+
+TEST_F(ProjectSaveTest, AnEndThatIsLostInTheLastBlockOfALongFileIsSeen) {
+  for (int i = 0; i < 3000; ++i) AddCategory(project, "A category with a title of some length")->body.assign("text");
+  fillDisk(t, 2);
+  const std::string saved = SaveText(t);
+  EXPECT_GT(saved.size(), 100000U);
+  EXPECT_FALSE(saved.ends_with(kGroup));
+  EXPECT_EQ(t.screen.boxes.size(), 1U);
+}
+
+TEST_F(ProjectSaveTest, AnUnchangedProjectThatLosesItsEndCountsAsChanged) {
+  fillDisk(t, 0);
+  SaveText(t);
+  EXPECT_EQ(project.dirty, 1) << "leaving the program must ask";
+}
+
+TEST_F(ProjectSaveTest, TheNextSaveThatSucceedsMakesUpForIt) {
+  fillDisk(t, 0);
+  SaveText(t);
+  t.files.shallFail = nullptr;
+  EXPECT_TRUE(ProjectSave(t.program));
+  EXPECT_EQ(project.dirty, 0);
+  EXPECT_TRUE(project.cutFile.isNull());
+  EXPECT_EQ(t.screen.boxes.size(), 1U);
 }
 
 TEST_F(ProjectSaveTest, ReadingWhatWasWrittenAndWritingItAgainGivesTheSameBytes) {
