@@ -1,10 +1,9 @@
 #include "shell/item_list.h"
 
-#include <algorithm>
 #include <array>
 
 #include "core/store/node_text.h"
-#include "core/text/text_edit.h"
+#include "core/text/text_search.h"
 #include "generator/items/html_text.h"
 #include "shell/guards.h"
 #include "shell/shell.h"
@@ -43,21 +42,11 @@ constexpr std::array<ItemColumn, 16> kColumns{{
 
 bool isColumn(int column) { return column >= 0 && column < static_cast<int>(kColumns.size()); }
 
-int compareNoCase(std::string_view left, std::string_view right) {
-  const std::size_t shared = std::min(left.size(), right.size());
-  for (std::size_t i = 0; i < shared; ++i) {
-    const int difference =
-        static_cast<unsigned char>(LowerChar(left[i])) - static_cast<unsigned char>(LowerChar(right[i]));
-    if (difference != 0) return difference;
-  }
-  return static_cast<int>(left.size() > right.size()) - static_cast<int>(left.size() < right.size());
-}
-
 // Deliberate: numbers are compared as text too, so that 10 comes before 9.
 int compareBy(const ItemColumn& column, const StoreNode& left, const StoreNode& right) {
-  const int difference = compareNoCase(TextOf(left, column.text).view(), TextOf(right, column.text).view());
+  const int difference = CompareNoCase(TextOf(left, column.text).view(), TextOf(right, column.text).view());
   if (difference != 0) return column.order == Order::Ascending ? difference : -difference;
-  return column.thenByTitle ? compareNoCase(left.title.view(), right.title.view()) : 0;
+  return column.thenByTitle ? CompareNoCase(left.title.view(), right.title.view()) : 0;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 
 #include "core/text/text_edit.h"
 
@@ -19,6 +20,13 @@ std::int32_t LeadingInt(std::string_view text) {
     value = value * 10 + static_cast<std::uint32_t>(text[at] - '0');
   }
   return static_cast<std::int32_t>(negative ? 0U - value : value);
+}
+
+// Only the signs of a decimal number are handed on: the library knows infinities and hexadecimal numbers as well.
+double LeadingDouble(std::string_view text) {
+  while (!text.empty() && IsSpace(text.front())) text.remove_prefix(1);
+  const std::string number(text.substr(0, text.find_first_not_of("0123456789.eE+-")));
+  return std::strtod(number.c_str(), nullptr);
 }
 
 std::uint8_t HexPairValue(std::string_view pair) {

@@ -16,6 +16,10 @@ namespace varlo {
 // is none. Wraps at 32 bits.
 [[nodiscard]] std::int32_t LeadingInt(std::string_view text);
 
+// The leading decimal number of the text, with a fraction and an exponent where it has them; 0 when there is
+// none. What is too large is infinite, what is too small 0.
+[[nodiscard]] double LeadingDouble(std::string_view text);
+
 // The byte of two hexadecimal characters; a missing one counts as 0. A decimal digit counts as its
 // value, any other character as its upper-case code less 55, whatever it is.
 [[nodiscard]] std::uint8_t HexPairValue(std::string_view pair);

@@ -31,6 +31,16 @@ bool EqualsNoCase(std::string_view left, std::string_view right) {
   return std::equal(left.begin(), left.end(), right.begin(), right.end(), sameLetter);
 }
 
+int CompareNoCase(std::string_view left, std::string_view right) {
+  const std::size_t shared = std::min(left.size(), right.size());
+  for (std::size_t i = 0; i < shared; ++i) {
+    const int difference =
+        static_cast<unsigned char>(LowerChar(left[i])) - static_cast<unsigned char>(LowerChar(right[i]));
+    if (difference != 0) return difference;
+  }
+  return static_cast<int>(left.size() > right.size()) - static_cast<int>(left.size() < right.size());
+}
+
 std::size_t FindNoCase(std::string_view text, std::string_view part, std::size_t start) {
   if (start > text.size()) return std::string_view::npos;
   const auto first = text.begin() + static_cast<std::ptrdiff_t>(start);

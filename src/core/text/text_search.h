@@ -9,6 +9,9 @@ namespace varlo {
 // Equal bytes, ignoring case.
 [[nodiscard]] bool EqualsNoCase(std::string_view left, std::string_view right);
 
+// Less than, equal to or greater than 0 as `left` stands before, at or behind `right`, ignoring case.
+[[nodiscard]] int CompareNoCase(std::string_view left, std::string_view right);
+
 // Position of the first `part` at or behind `start`, ignoring case; npos when there is none.
 [[nodiscard]] std::size_t FindNoCase(std::string_view text, std::string_view part, std::size_t start = 0);
 

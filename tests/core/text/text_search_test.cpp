@@ -19,6 +19,21 @@ TEST(EqualsNoCase, FollowsTheAsciiRule) {
   EXPECT_FALSE(EqualsNoCase("@", "`"));
 }
 
+TEST(CompareNoCase, OrdersByBytesOfLowerCase) {
+  EXPECT_EQ(CompareNoCase("Index.HTM", "iNDEX.htm"), 0);
+  EXPECT_LT(CompareNoCase("Apple", "banana"), 0);
+  EXPECT_GT(CompareNoCase("banana", "Apple"), 0);
+  EXPECT_GT(CompareNoCase("\xE9", "z"), 0);
+  EXPECT_GT(CompareNoCase("Z", "["), 0);  // as "z"
+}
+
+TEST(CompareNoCase, TheBeginningOfATextStandsBeforeIt) {
+  EXPECT_EQ(CompareNoCase("", ""), 0);
+  EXPECT_LT(CompareNoCase("", "a"), 0);
+  EXPECT_LT(CompareNoCase("ab", "ABC"), 0);
+  EXPECT_GT(CompareNoCase("ABC", "ab"), 0);
+}
+
 TEST(FindNoCase, FindsFromTheStartItIsGiven) {
   EXPECT_EQ(FindNoCase("abcABC", "Bc"), 1U);
   EXPECT_EQ(FindNoCase("abcABC", "Bc", 1), 1U);
