@@ -59,7 +59,8 @@ struct StoreProject {
   FreightRegion* regions = nullptr;
   FreightRegion* regionsTail = nullptr;
   FreightRegion* currentRegion = nullptr;
-  std::int32_t currentMethod = 0;  // 0..2
+  std::int32_t currentMethod = 0;                   // 0..2
+  std::unique_ptr<FreightMethod> freightClipboard;  // private copy; outlives the project
   std::array<Text, kFreightMethods> methodName;
 
   CardEntry* acceptedCards = nullptr;
