@@ -21,7 +21,7 @@ BEGIN {
   # The rooms of a folder, from the ground up. Such a folder has no files outside of its rooms.
   rooms("core", "text store program tree")
   rooms("persist", "installation project life dialogs")
-  rooms("commerce", "cards tax freight wizard")
+  rooms("commerce", "cards freight tax wizard")
   rooms("generator", "state items template pages cart build")
 
   # Compared in lower case: Windows does not mind the case of a name.

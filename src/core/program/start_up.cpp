@@ -1,6 +1,5 @@
 #include "core/program/start_up.h"
 
-#include <array>
 #include <cstdlib>
 
 #include "core/program/messages.h"
@@ -12,8 +11,6 @@
 namespace varlo {
 namespace {
 
-constexpr std::array<std::string_view, kFreightMethods> kDefaultMethods{
-    "Economy Air (2-3 Weeks)", "Express Courier (1-3 Days)", "Surface Mail (3-6 Weeks)"};
 constexpr const char* kDemoPage = "Projects\\Demo\\Web\\index.html";
 
 void run(const std::function<void(Program&)>& step, Program& program) {
@@ -38,17 +35,6 @@ void completeCatalogue(AppConfig& config, const StartUpSteps& steps) {
   style->schemes->prev = style;
 }
 
-void makeDefaultVariable(StoreProject& project) {
-  if (project.variables != nullptr) return;
-  UserVariable* copyright = UserVariableInit(nullptr);
-  copyright->name.assign("$COPYRIGHT");
-  copyright->value.assign(
-      "Copyright \xA9"
-      "2000");
-  UserVariableAppend(project, copyright);
-  project.currentVariable = copyright;
-}
-
 void decideFirstCommand(Program& program) {
   if (!program.config.orderServer.isSet()) {
     program.screen.postCommand(Command::Upgrade);
@@ -59,10 +45,21 @@ void decideFirstCommand(Program& program) {
 
 }  // namespace
 
+void MakeDefaultVariable(StoreProject& project) {
+  if (project.variables != nullptr) return;
+  UserVariable* copyright = UserVariableInit(nullptr);
+  copyright->name.assign("$COPYRIGHT");
+  copyright->value.assign(
+      "Copyright \xA9"
+      "2000");
+  UserVariableAppend(project, copyright);
+  project.currentVariable = copyright;
+}
+
 void StartUp(Program& program, const StartUpSteps& steps) {
   AppConfig& config = program.config;
   StoreProject& project = program.project;
-  for (std::size_t i = 0; i < kDefaultMethods.size(); ++i) project.methodName[i].assign(kDefaultMethods[i]);
+  for (std::size_t i = 0; i < kDefaultMethodNames.size(); ++i) project.methodName[i].assign(kDefaultMethodNames[i]);
   SchemeListFree(program, config.schemeStyles);
   std::srand(static_cast<unsigned>(program.clock.now()));
   run(steps.readRegionCatalogue, program);
@@ -71,7 +68,7 @@ void StartUp(Program& program, const StartUpSteps& steps) {
   run(steps.readCardCatalogue, program);
   run(steps.readTemplateVersions, program);
   completeCatalogue(config, steps);
-  makeDefaultVariable(project);
+  MakeDefaultVariable(project);
   if (config.currentStyle == nullptr) config.currentStyle = config.schemeStyles;
   run(steps.detectBrowsers, program);
   for (TextSlot& slot : program.slots) slot.release();

@@ -2,12 +2,24 @@
 // detection are handed in, so the order stands in one place.
 #pragma once
 
+#include <array>
 #include <functional>
+#include <string_view>
+
+#include "core/store/freight_record.h"
 
 namespace varlo {
 
 struct Program;
 struct SchemeRecord;
+struct StoreProject;
+
+// The delivery methods of a store that names none.
+inline constexpr std::array<std::string_view, kFreightMethods> kDefaultMethodNames{
+    "Economy Air (2-3 Weeks)", "Express Courier (1-3 Days)", "Surface Mail (3-6 Weeks)"};
+
+// Gives a project without variables the one that every store starts with.
+void MakeDefaultVariable(StoreProject& project);
 
 // What start-up runs, each whether or not the earlier ones found their files. An empty function is
 // skipped.
