@@ -1,12 +1,10 @@
 #include "shell/browser.h"
 
-#include <array>
 #include <memory>
 #include <string>
 
 #include "core/program/messages.h"
 #include "core/program/program.h"
-#include "core/text/open_file.h"
 #include "shell/guards.h"
 #include "shell/shell.h"
 
@@ -20,15 +18,6 @@ constexpr std::size_t kFileCut = 256;     // of a file below it
 constexpr int kWaitMilliseconds = 10000;
 constexpr int kAlwaysStart = 1;  // values of newWindow
 constexpr int kSameWindow = 0;
-
-// Where browsers were installed in their time.
-constexpr std::array<std::string_view, 5> kUsualPlaces{
-    "c:\\Program Files\\Internet Explorer\\iexplore.exe",
-    "c:\\Program Files\\Netscape\\Communicator\\Program\\netscape.exe",
-    "c:\\Program Files\\Netscape\\Navigator\\Program\\netscape.exe",
-    "c:\\Netscape\\netscape.exe",
-    "c:\\iexplore\\iexplore.exe",
-};
 
 std::string targetOf(Files& files, std::string_view url) {
   if (url.find(':') != std::string_view::npos) return std::string(url.substr(0, kAddressCut));
@@ -56,22 +45,6 @@ bool showInRunning(BrowserSystem& browsers, const std::string& service, const st
   return true;
 }
 
-// Takes the program that the registry names for a class of documents; false when it names none.
-bool detect(BrowserSystem& browsers, const char* documentClass, Text& browser) {
-  const std::optional<std::string> icon = browsers.classesValue(std::string(documentClass).append("\\DefaultIcon"));
-  if (!icon) return false;
-  browser.assign(std::string_view(*icon).substr(0, icon->find(',')));
-  return true;
-}
-
-// The first of the usual places that holds a browser. Deliberate: without any the first one all the same.
-std::string_view usualBrowser(Files& files) {
-  for (const std::string_view place : kUsualPlaces) {
-    if (FileExists(files, place) == 1) return place;
-  }
-  return kUsualPlaces[0];
-}
-
 }  // namespace
 
 bool launchBrowser(Shell& shell, std::string_view browser, std::string_view url, int newWindow) {
@@ -89,16 +62,6 @@ bool openInBrowser(Shell& shell, std::string_view url) {
   shell.program.screen.messageBox(
       {.text = message::kBrowserError, .title = message::kBrowserErrorTitle, .icon = Icon::Exclamation});
   return false;
-}
-
-void detectBrowsers(Program& program, BrowserSystem& browsers) {
-  AppConfig& config = program.config;
-  const bool explorer = detect(browsers, "htmlfile", config.browserExplorer);
-  const bool netscape = detect(browsers, "NetscapeMarkup", config.browserNetscape);
-  if (!config.browser.isSet()) {
-    config.browser = config.browserExplorer.isSet() ? config.browserExplorer : config.browserNetscape;
-  }
-  if (!explorer && !netscape && !config.browser.isSet()) config.browser.assign(usualBrowser(program.files));
 }
 
 }  // namespace varlo

@@ -5,17 +5,12 @@
 
 namespace varlo {
 
-struct Program;
 struct Shell;
-struct BrowserSystem;
 
 // Shows `url`: an address, or a file below the working folder. True when it went to a browser.
 bool launchBrowser(Shell& shell, std::string_view browser, std::string_view url, int newWindow);
 
 // The same with the stored preferences; tells the user when it failed.
 bool openInBrowser(Shell& shell, std::string_view url);
-
-// Finds the browsers of the machine, at start-up, and chooses one where the preferences have none.
-void detectBrowsers(Program& program, BrowserSystem& browsers);
 
 }  // namespace varlo

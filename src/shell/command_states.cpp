@@ -1,8 +1,6 @@
 #include "shell/command_states.h"
 
-#include "core/program/program.h"
 #include "core/program/scheme.h"
-#include "core/tree/store_tree.h"
 
 namespace varlo {
 namespace {
@@ -85,22 +83,6 @@ CommandStates::Page pageStates(const CommandFacts& facts) {
       .fields = ready, .ownPage = ready && !isShelfOrList(facts.parent), .imageLink = ready && facts.nodeHasImage};
 }
 
-void gatherNode(const StoreProject& project, CommandFacts& facts) {
-  const StoreNode* node = project.currentNode;
-  if (node == nullptr) return;
-  facts.node = node->kind;
-  facts.nodeHasImage = node->image.isSet();
-  const StoreNode* parent = LiveParent(*node);
-  if (parent != nullptr) facts.parent = parent->kind;
-}
-
-// Asking for the selection or the clipboard costs, so it is done where the answer matters.
-void gatherRichEdit(const Shell& shell, CommandFacts& facts) {
-  if (facts.focus != FocusPlace::RichEdit || shell.tabPage == nullptr) return;
-  facts.textSelected = shell.tabPage->hasSelection(richEditOf(shell.currentTab));
-  facts.textToPaste = shell.program.clipboard.offersText();
-}
-
 }  // namespace
 
 CommandStates commandStates(const CommandFacts& facts) {
@@ -108,24 +90,6 @@ CommandStates commandStates(const CommandFacts& facts) {
           .buttons = buttonStates(facts),
           .tools = toolStates(facts),
           .page = pageStates(facts)};
-}
-
-CommandFacts gatherFacts(const Shell& shell) {
-  const StoreProject& project = shell.program.project;
-  const AppConfig& config = shell.program.config;
-  CommandFacts facts{.projectOpen = project.projectFile.isSet(),
-                     .treeFilled = project.root != nullptr,
-                     .dirty = project.dirty != 0,
-                     .tab = shell.currentTab,
-                     .focus = focusPlace(shell),
-                     .nodeCopied = project.clipboardNode != nullptr,
-                     .regionCurrent = project.currentRegion != nullptr,
-                     .variableCurrent = project.currentVariable != nullptr};
-  gatherNode(project, facts);
-  gatherRichEdit(shell, facts);
-  if (config.currentStyle != nullptr) facts.styleType = config.currentStyle->type;
-  if (config.currentScheme != nullptr) facts.schemeType = config.currentScheme->type;
-  return facts;
 }
 
 }  // namespace varlo

@@ -1,12 +1,11 @@
-// Which menu entries, buttons and controls can be used: one function from plain facts to plain states, and its
-// use on the main window.
+// Which menu entries, buttons and controls can be used: one function from plain facts to plain states.
 #pragma once
 
 #include <cstdint>
 #include <optional>
 
 #include "core/store/store_node.h"
-#include "shell/focus_commands.h"
+#include "shell/focus.h"
 #include "shell/shell.h"
 
 namespace varlo {
@@ -72,10 +71,5 @@ struct CommandStates {
 };
 
 [[nodiscard]] CommandStates commandStates(const CommandFacts& facts);
-
-[[nodiscard]] CommandFacts gatherFacts(const Shell& shell);
-
-// Applies all rules to the window. Nothing without one.
-void refreshCommandStates(Shell& shell);
 
 }  // namespace varlo

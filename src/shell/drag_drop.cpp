@@ -1,12 +1,13 @@
+#include "shell/drag_drop.h"
+
 #include "core/program/program.h"
 #include "core/tree/store_tree.h"
-#include "shell/command_states.h"
-#include "shell/commands.h"
 #include "shell/form.h"
 #include "shell/guards.h"
 #include "shell/item_list.h"
-#include "shell/node_moves.h"
+#include "shell/node_selection.h"
 #include "shell/shell.h"
+#include "shell/state_display.h"
 #include "shell/tree_items.h"
 
 namespace varlo {

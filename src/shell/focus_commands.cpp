@@ -1,7 +1,7 @@
 #include "shell/focus_commands.h"
 
 #include "core/program/program.h"
-#include "platform/control_ids.h"
+#include "shell/focus.h"
 #include "shell/item_list.h"
 #include "shell/node_changes.h"
 #include "shell/shell.h"
@@ -20,25 +20,6 @@ bool onRichEdit(Shell& shell, PageAction action) {
 }
 
 }  // namespace
-
-ControlId richEditOf(Tab tab) { return tab == Tab::Inventory ? control::inventory::kDescription : 0; }
-
-FocusPlace focusPlace(const Shell& shell) {
-  if (shell.mainWindow == nullptr) return FocusPlace::Elsewhere;
-  const Focus focus = shell.mainWindow->focus();
-  switch (focus.place) {
-    case Focus::Place::Tree:
-      return FocusPlace::Tree;
-    case Focus::Place::ItemList:
-      return FocusPlace::ItemList;
-    case Focus::Place::Page:
-      return focus.control != 0 && focus.control == richEditOf(shell.currentTab) ? FocusPlace::RichEdit
-                                                                                 : FocusPlace::Elsewhere;
-    case Focus::Place::Elsewhere:
-      break;
-  }
-  return FocusPlace::Elsewhere;
-}
 
 void copyAtFocus(Shell& shell) {
   if (onRichEdit(shell, [](Dialog& page, ControlId edit) { page.copySelection(edit); })) return;

@@ -8,10 +8,9 @@
 #include "core/program/program.h"
 #include "core/text/text_edit.h"
 #include "core/tree/store_tree.h"
-#include "shell/command_states.h"
 #include "shell/form_fields.h"
 #include "shell/shell.h"
-#include "shell/tree_items.h"
+#include "shell/state_display.h"
 
 namespace varlo {
 namespace {
@@ -60,10 +59,10 @@ Text readField(Dialog& page, const FormField& field) {
 }
 
 // Deliberate: `modified` of the node does not rise by a change of its texts.
-void store(Shell& shell, StoreNode& node, StoreNode& scratch) {
+void store(Program& program, StoreNode& node, StoreNode& scratch) {
   if (node.title.view() != scratch.title.view()) {
     node.title = scratch.title;
-    refreshLabel(shell, node);
+    program.view.nodeRenamed(node);
   }
   for (const FormField& field : kFormFields) {
     if (field.control != kTitle) textOf(field, node) = textOf(field, scratch);
@@ -74,7 +73,7 @@ void readInventory(Shell& shell, StoreNode& node) {
   StoreNode scratch;
   for (const FormField& field : kFormFields) textOf(field, scratch) = readField(*shell.tabPage, field);
   shell.descriptionCache = scratch.body.view();
-  if (formDiffers(&node, &scratch)) store(shell, node, scratch);
+  if (formDiffers(&node, &scratch)) store(shell.program, node, scratch);
 }
 
 }  // namespace

@@ -10,11 +10,9 @@
 #include "core/text/text_search.h"
 #include "platform/control_ids.h"
 #include "shell/browser.h"
-#include "shell/commands.h"
 #include "shell/form.h"
 #include "shell/inventory_layout.h"
 #include "shell/shell.h"
-#include "shell/tree_items.h"
 
 namespace varlo {
 namespace {
@@ -84,7 +82,7 @@ void InventoryPage::applyRule(Dialog& page, const ControlEvent& event) {
 
 void InventoryPage::titleChanged() {
   StoreNode* node = shell_.program.project.currentNode;
-  if (!shell_.formLoading && node != nullptr) refreshLabel(shell_, *node);
+  if (!shell_.formLoading && node != nullptr) shell_.program.view.nodeRenamed(*node);
 }
 
 // The field has the text of a row only after the notice of its choice. Filling the field is no doing of the user's.
@@ -136,7 +134,7 @@ void InventoryPage::pressed(Dialog& page, ControlId button) {
       break;
     case kPreview:
     case kBuild:
-      dispatchCommand(shell_, Command::PreviewPage);
+      shell_.program.screen.postCommand(Command::PreviewPage);
       break;
     default:
       break;

@@ -1,7 +1,9 @@
+#include "shell/key_moves.h"
+
 #include "core/program/program.h"
 #include "core/tree/store_tree.h"
 #include "shell/guards.h"
-#include "shell/node_moves.h"
+#include "shell/node_selection.h"
 #include "shell/shell.h"
 #include "shell/tree_items.h"
 

@@ -120,6 +120,10 @@ LayoutFacts layoutFactsOf(const Shell& shell) {
           .buttonsShown = (flags & kViewButtons) != 0};
 }
 
+void placeTabPage(Shell& shell) {
+  if (shell.tabPage != nullptr) shell.mainWindow->placePage(layOutMainWindow(layoutFactsOf(shell)).page);
+}
+
 void resizeMainWindow(Shell& shell) {
   if (shell.mainWindow == nullptr) return;
   if (shell.tabPage == nullptr) {

@@ -31,6 +31,9 @@ struct MainLayout {
 // The facts of the window that is open.
 [[nodiscard]] LayoutFacts layoutFactsOf(const Shell& shell);
 
+// Moves the page of the open tab to its place.
+void placeTabPage(Shell& shell);
+
 // Lays the window out for its size, with the parts of its status bar, and paints it anew. Tells the user when
 // there is no page.
 void resizeMainWindow(Shell& shell);

@@ -6,11 +6,10 @@
 #include "core/program/start_up.h"
 #include "persist/life/file_steps.h"
 #include "persist/project/project_load.h"
-#include "shell/command_states.h"
 #include "shell/form.h"
 #include "shell/item_list.h"
-#include "shell/pages.h"
 #include "shell/shell.h"
+#include "shell/state_display.h"
 #include "shell/tab_switch.h"
 #include "shell/toolbar.h"
 

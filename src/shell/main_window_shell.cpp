@@ -1,13 +1,15 @@
 #include "shell/main_window_shell.h"
 
 #include "core/program/program.h"
-#include "shell/command_states.h"
 #include "shell/commands.h"
+#include "shell/drag_drop.h"
 #include "shell/item_list.h"
+#include "shell/key_moves.h"
 #include "shell/main_layout.h"
 #include "shell/main_window_life.h"
-#include "shell/node_moves.h"
 #include "shell/node_selection.h"
+#include "shell/popup_menus.h"
+#include "shell/state_display.h"
 #include "shell/tab_switch.h"
 #include "shell/toolbar.h"
 #include "shell/tree_items.h"
@@ -16,7 +18,10 @@ namespace varlo {
 
 void MainWindowShell::opened(MainWindow& window) { setUpMainWindow(shell_, window); }
 void MainWindowShell::command(Command command) { dispatchCommand(shell_, command); }
-void MainWindowShell::tabSelected(int tab) { switchTab(shell_, static_cast<Tab>(tab)); }
+void MainWindowShell::tabSelected(int tab) {
+  switchTab(shell_, static_cast<Tab>(tab));
+  placeTabPage(shell_);
+}
 void MainWindowShell::resized() { resizeMainWindow(shell_); }
 void MainWindowShell::moved() {}
 void MainWindowShell::closeRequested() { dispatchCommand(shell_, Command::Quit); }
@@ -31,7 +36,9 @@ void MainWindowShell::focusMoved() { refreshCommandStates(shell_); }
 void MainWindowShell::treeSelectionChanged(TreeItem item) { onTreeSelection(shell_, item); }
 void MainWindowShell::treeItemExpanding(TreeItem item) { onTreeExpanding(shell_, item); }
 bool MainWindowShell::treeKey(Key key) { return onTreeKey(shell_, key); }
-void MainWindowShell::treeRightClicked(Point point) { onTreeRightClicked(shell_, point); }
+void MainWindowShell::treeRightClicked(Point point) {
+  if (onTreeRightClicked(shell_, point)) showPopup(treePopup(shell_));
+}
 void MainWindowShell::treeDragBegun(TreeItem item) { onTreeDragBegun(shell_, item); }
 
 std::string_view MainWindowShell::cellText(ItemData data, int column) {
@@ -43,7 +50,9 @@ void MainWindowShell::rowDoubleClicked(int row) { onRowDoubleClicked(shell_, row
 void MainWindowShell::rowChanged(int row) { onRowChanged(shell_, row); }
 void MainWindowShell::columnClicked(int column) { sortItemList(shell_, column); }
 void MainWindowShell::listKey(Key key, bool control) { onListKey(shell_, key, control); }
-void MainWindowShell::listRightClicked(Point point) { onListRightClicked(shell_, point); }
+void MainWindowShell::listRightClicked(Point point) {
+  if (onListRightClicked(shell_, point)) showPopup(listPopup(shell_));
+}
 void MainWindowShell::listDragBegun(int row) { onListDragBegun(shell_, row); }
 
 void MainWindowShell::dragMoved(Point point) { onDragMoved(shell_, point); }
@@ -51,5 +60,9 @@ void MainWindowShell::dragTicked() {
   if (shell_.mainWindow != nullptr) onDragMoved(shell_, shell_.mainWindow->cursor());
 }
 void MainWindowShell::dragReleased(Point point) { onDragReleased(shell_, point); }
+
+void MainWindowShell::showPopup(const PopupMenu& menu) {
+  dispatchCommand(shell_, shell_.program.screen.popupMenu(menu));
+}
 
 }  // namespace varlo

@@ -1,6 +1,7 @@
 // MainWindowShell: the logic of the main window. It routes what the window tells to the routines of the shell.
 #pragma once
 
+#include "platform/popup_menu.h"
 #include "shell/shell.h"
 
 namespace varlo {
@@ -40,6 +41,9 @@ class MainWindowShell : public MainWindowLogic {
   void dragReleased(Point point) override;
 
  private:
+  // Shows a menu at the mouse and runs what is chosen in it.
+  void showPopup(const PopupMenu& menu);
+
   Shell& shell_;
 };
 

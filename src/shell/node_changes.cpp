@@ -4,11 +4,12 @@
 #include "core/program/program.h"
 #include "core/tree/node_commands.h"
 #include "core/tree/store_tree.h"
-#include "shell/command_states.h"
 #include "shell/form.h"
 #include "shell/guards.h"
 #include "shell/item_list.h"
+#include "shell/node_selection.h"
 #include "shell/shell.h"
+#include "shell/state_display.h"
 #include "shell/tree_items.h"
 
 namespace varlo {

@@ -2,12 +2,10 @@
 
 #include "core/program/program.h"
 #include "platform/control_ids.h"
-#include "shell/command_states.h"
-#include "shell/commands.h"
 #include "shell/form.h"
 #include "shell/item_list.h"
-#include "shell/popup_menus.h"
 #include "shell/shell.h"
+#include "shell/state_display.h"
 #include "shell/tree_items.h"
 
 namespace varlo {
@@ -32,6 +30,30 @@ void takeRow(Shell& shell, StoreNode& node) {
 void showTreeHelp(Shell& shell) { shell.program.view.showHelp(control::main::kTree); }
 
 }  // namespace
+
+void selectCurrent(Shell& shell, StoreNode* node) {
+  if (node == nullptr) {
+    if (shell.mainWindow != nullptr) shell.mainWindow->controls().enable(control::main::kPreview, false);
+    return;
+  }
+  StoreProject& project = shell.program.project;
+  project.currentNode = project.treeNode = node;
+  shell.fromList = false;
+  followTreeNode(shell);
+  loadItemList(shell, node);
+  loadForm(shell);
+}
+
+void selectInTree(Shell& shell, StoreNode& node) {
+  bool told = false;
+  if (shell.mainWindow != nullptr && node.treeItem != kNoTreeItem) {
+    TreeWindow& tree = shell.mainWindow->tree();
+    told = tree.selected() != node.treeItem;
+    tree.select(node.treeItem);
+    tree.ensureVisible(node.treeItem);
+  }
+  if (!told) selectCurrent(shell, &node);
+}
 
 void onTreeSelection(Shell& shell, TreeItem item) {
   StoreNode* node = nodeOfItem(shell, item);
@@ -78,21 +100,21 @@ void onListKey(Shell& shell, Key key, bool control) {
   if (key == Key::A && control) shell.program.screen.postCommand(Command::ListSelectAll);
 }
 
-void onTreeRightClicked(Shell& shell, Point point) {
-  if (ignoresRows(shell) || shell.mainWindow == nullptr) return;
+bool onTreeRightClicked(Shell& shell, Point point) {
+  if (ignoresRows(shell) || shell.mainWindow == nullptr) return false;
   StoreNode* node = nodeOfItem(shell, shell.mainWindow->tree().itemAt(point));
   shell.hitItem = node != nullptr;
   if (node != nullptr) selectCurrent(shell, node);
   refreshCommandStates(shell);
-  showPopup(shell, treePopup(shell));
+  return true;
 }
 
-void onListRightClicked(Shell& shell, Point point) {
-  if (ignoresRows(shell) || shell.mainWindow == nullptr) return;
+bool onListRightClicked(Shell& shell, Point point) {
+  if (ignoresRows(shell) || shell.mainWindow == nullptr) return false;
   StoreNode* node = nodeOfRow(shell, shell.mainWindow->list().rowAt(point));
   shell.hitItem = node != nullptr;
   if (node != nullptr) takeRow(shell, *node);
-  showPopup(shell, listPopup(shell));
+  return true;
 }
 
 }  // namespace varlo

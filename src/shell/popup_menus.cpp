@@ -4,7 +4,6 @@
 
 #include "core/program/program.h"
 #include "core/tree/store_tree.h"
-#include "shell/commands.h"
 #include "shell/shell.h"
 
 namespace varlo {
@@ -110,7 +109,5 @@ PopupMenu listPopup(const Shell& shell) {
   applyCommonRules(menu, kList, shell.program.project.root != nullptr, shell);
   return menu;
 }
-
-void showPopup(Shell& shell, const PopupMenu& menu) { dispatchCommand(shell, shell.program.screen.popupMenu(menu)); }
 
 }  // namespace varlo

@@ -11,7 +11,4 @@ struct Shell;
 [[nodiscard]] PopupMenu treePopup(const Shell& shell);
 [[nodiscard]] PopupMenu listPopup(const Shell& shell);
 
-// Shows a menu at the mouse and runs what is chosen in it.
-void showPopup(Shell& shell, const PopupMenu& menu);
-
 }  // namespace varlo

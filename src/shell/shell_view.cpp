@@ -1,10 +1,11 @@
 #include "shell/shell_view.h"
 
 #include "shell/browser.h"
-#include "shell/command_states.h"
 #include "shell/form.h"
 #include "shell/item_list.h"
+#include "shell/node_selection.h"
 #include "shell/shell.h"
+#include "shell/state_display.h"
 #include "shell/tree_items.h"
 
 namespace varlo {
@@ -41,6 +42,9 @@ void ShellView::refreshTreeItem(StoreNode& node) {
 }
 void ShellView::selectInTree(StoreNode& node) {
   if (shell_ != nullptr) varlo::selectInTree(*shell_, node);
+}
+void ShellView::nodeRenamed(StoreNode& node) {
+  if (shell_ != nullptr) refreshLabel(*shell_, node);
 }
 // What can be done is looked at whenever help is asked for, so on almost every move of the focus.
 void ShellView::showHelp(int /*id*/) {

@@ -22,6 +22,7 @@ class ShellView : public View {
   void removeTreeItem(StoreNode& node) override;
   void refreshTreeItem(StoreNode& node) override;
   void selectInTree(StoreNode& node) override;
+  void nodeRenamed(StoreNode& node) override;
   void showHelp(int id) override;
   void openInBrowser(std::string_view address) override;
   void storeForm() override;

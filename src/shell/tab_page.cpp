@@ -1,6 +1,6 @@
 #include "shell/tab_page.h"
 
-#include "shell/commands.h"
+#include "core/program/program.h"
 #include "shell/form.h"
 #include "shell/shell.h"
 
@@ -18,7 +18,7 @@ void TabPage::opened(Dialog& page) {
 
 void TabPage::notified(Dialog& /*page*/, const ControlEvent& event) { onFieldCommand(shell_, event); }
 
-void TabPage::closeRequested(Dialog& /*page*/) { dispatchCommand(shell_, Command::Quit); }
+void TabPage::closeRequested(Dialog& /*page*/) { shell_.program.screen.postCommand(Command::Quit); }
 
 void TabPage::closed() { shell_.tabPage = nullptr; }
 

@@ -1,11 +1,31 @@
 #include "shell/tab_switch.h"
 
+#include <array>
+
 #include "core/program/program.h"
-#include "shell/command_states.h"
-#include "shell/main_layout.h"
-#include "shell/pages.h"
+#include "platform/control_ids.h"
+#include "shell/inventory_page.h"
+#include "shell/state_display.h"
 
 namespace varlo {
+
+const TabTraits& traitsOf(Tab tab) {
+  static constexpr std::array<TabTraits, kTabs> kTraits{{
+      {"Inventory", dialog::kInventoryPage},
+      {"Template", dialog::kTemplatePage},
+      {"Freight", dialog::kFreightPage},
+      {"Order Form", dialog::kOrderFormPage},
+      {"Confirmation", dialog::kConfirmationPage},
+      {"Layout", dialog::kLayoutPage},
+      {"Variables", dialog::kVariablesPage},
+  }};
+  return kTraits[static_cast<std::size_t>(tab)];
+}
+
+std::unique_ptr<DialogLogic> makePage(Shell& shell, Tab tab) {
+  if (tab == Tab::Inventory) return std::make_unique<InventoryPage>(shell);
+  return std::make_unique<TabPage>(shell);
+}
 
 void switchTab(Shell& shell, Tab tab) {
   const int number = static_cast<int>(tab);
@@ -25,7 +45,6 @@ void openTabPage(Shell& shell) {
   shell.pageLogic = makePage(shell, shell.currentTab);
   if (shell.pageLogic == nullptr) return;
   shell.tabPage = shell.mainWindow->openPage(traitsOf(shell.currentTab).dialogId, *shell.pageLogic);
-  if (shell.tabPage != nullptr) shell.mainWindow->placePage(layOutMainWindow(layoutFactsOf(shell)).page);
 }
 
 // While the page goes, its last notices find none.

@@ -6,7 +6,6 @@
 #include "core/program/program.h"
 #include "core/tree/store_tree.h"
 #include "generator/items/html_text.h"
-#include "shell/commands.h"
 #include "shell/guards.h"
 #include "shell/item_list.h"
 #include "shell/shell.h"
@@ -170,17 +169,6 @@ void refreshLabel(Shell& shell, StoreNode& node) {
 void refreshChildrenFlag(Shell& shell, StoreNode& node) {
   if (shell.mainWindow == nullptr || node.treeItem == kNoTreeItem) return;
   shell.mainWindow->tree().setHasChildren(node.treeItem, offersChildren(node));
-}
-
-void selectInTree(Shell& shell, StoreNode& node) {
-  bool told = false;
-  TreeWindow* tree = treeOf(shell);
-  if (tree != nullptr && node.treeItem != kNoTreeItem) {
-    told = tree->selected() != node.treeItem;
-    tree->select(node.treeItem);
-    tree->ensureVisible(node.treeItem);
-  }
-  if (!told) selectCurrent(shell, &node);
 }
 
 void followTreeNode(Shell& shell) {

@@ -42,10 +42,6 @@ void refreshIcon(Shell& shell, StoreNode& node);
 void refreshLabel(Shell& shell, StoreNode& node);
 void refreshChildrenFlag(Shell& shell, StoreNode& node);
 
-// Selects the node's item and makes it visible. The node becomes current, also when it has no item or when its item
-// is selected already.
-void selectInTree(Shell& shell, StoreNode& node);
-
 // Selects the item of the tree's node in the control, none when it is not shown, and tells nobody.
 void followTreeNode(Shell& shell);
 

@@ -5,7 +5,6 @@
 #include "core/program/start_up.h"
 #include "core/text/open_file.h"
 #include "shell/browser.h"
-#include "shell/commands.h"
 #include "shell/shell.h"
 
 namespace varlo {
@@ -48,15 +47,6 @@ void launchUpgrade(Shell& shell) {
         {.text = message::kUpgradeError, .title = message::kUpgradeErrorTitle, .icon = Icon::Exclamation});
   }
   ContinueAfterUpgrade(program, [&](Program&, const char* page) { openInBrowser(shell, page); });
-}
-
-void viewOrders(Shell& shell) {
-  if (!requireServer(shell)) return;
-  const AppConfig& config = shell.program.config;
-  const std::string_view server = config.orderServer.view();
-  std::string address = server.find(':') == std::string_view::npos ? "https://" : "";
-  address.append(server).append("?SN=").append(config.accountId.view());
-  openInBrowser(shell, address);
 }
 
 }  // namespace varlo

@@ -1,4 +1,4 @@
-// The commands that look outward: the upgrade program, and the orders on the order server's page.
+// The upgrade program, which brings the program and its templates up to date.
 #pragma once
 
 #include <string>
@@ -15,8 +15,5 @@ struct Shell;
 // start is told. Goes on with what a start of the program does next: the demo store on a first run, New Store
 // without a project.
 void launchUpgrade(Shell& shell);
-
-// Shows the page of the order server in the browser; tells the user when there is no server.
-void viewOrders(Shell& shell);
 
 }  // namespace varlo

@@ -4,6 +4,7 @@
 
 #include "core/store/freight_record.h"
 #include "platform/control_ids.h"
+#include "shell/node_selection.h"
 #include "tests/support/page_stand_in.h"
 #include "tests/support/test_shell.h"
 #include "tests/support/tree.h"
@@ -54,48 +55,6 @@ TEST_F(Commands, OnesThatAreNotKnownDoNothing) {
   EXPECT_THAT(t.screen.boxes, IsEmpty());
   EXPECT_THAT(t.screen.dialogs, IsEmpty());
   EXPECT_THAT(t.screen.posted, IsEmpty());
-}
-
-TEST_F(Commands, RequireServerTellsWhenThereIsNone) {
-  const ShownBox box{"No Varlo server selected.  Please select an Varlo server address in Preferences.",
-                     "Configuration Error", Buttons::Ok, Icon::Stop};
-  EXPECT_FALSE(requireServer(t.shell));
-  EXPECT_THAT(t.screen.boxes, ElementsAre(box));
-  t.config().orderServer.assign("");
-  EXPECT_FALSE(requireServer(t.shell));
-  t.config().orderServer.assign("orders.example");
-  EXPECT_TRUE(requireServer(t.shell));
-  EXPECT_EQ(t.screen.boxes.size(), 2U);
-}
-
-TEST_F(Commands, SelectCurrentMovesBothNodes) {
-  t.attach();
-  t.project().currentNode = t.project().treeNode = AddCategory(t.project(), "Home");
-  StoreNode* toys = AddCategory(t.project(), "Toys", root());
-  t.shell.fromList = true;
-  selectCurrent(t.shell, toys);
-  EXPECT_EQ(t.project().currentNode, toys);
-  EXPECT_EQ(t.project().treeNode, toys);
-  EXPECT_FALSE(t.shell.fromList);
-}
-
-TEST_F(Commands, SelectCurrentShowsChildrenAndForm) {
-  openShop();
-  selectCurrent(t.shell, root()->child);
-  EXPECT_THAT(t.window.theList.cells(0), ElementsAre("Ball"));
-  EXPECT_EQ(t.window.page()->text(control::inventory::kTitle), "Toys");
-}
-
-TEST_F(Commands, SelectCurrentWithNullOnlyGreysThePreviewButton) {
-  t.attach();
-  t.project().currentNode = t.project().treeNode = AddCategory(t.project(), "Home");
-  t.shell.fromList = true;
-  selectCurrent(t.shell, nullptr);
-  EXPECT_FALSE(t.window.frame().isEnabled(control::main::kPreview));
-  EXPECT_TRUE(t.window.frame().isEnabled(control::main::kProduct));
-  EXPECT_EQ(t.project().currentNode, root());
-  EXPECT_EQ(t.project().treeNode, root());
-  EXPECT_TRUE(t.shell.fromList);
 }
 
 TEST_F(Commands, OpenOffersToSaveAfterTheChoiceAndShowsTheOtherProject) {

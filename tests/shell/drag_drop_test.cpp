@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "core/program/project_close.h"
+#include "shell/drag_drop.h"
 #include "shell/node_changes.h"
-#include "shell/node_moves.h"
 #include "tests/support/shown_store.h"
 
 namespace varlo::test {

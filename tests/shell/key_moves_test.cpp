@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "shell/node_moves.h"
+#include "shell/key_moves.h"
 #include "tests/support/shown_store.h"
 
 namespace varlo::test {

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "platform/control_ids.h"
-#include "shell/commands.h"
 #include "tests/support/shown_store.h"
 
 namespace varlo::test {
@@ -206,6 +205,50 @@ TEST(SelectCurrent, OfNothingOnlyTurnsPreviewOff) {
   EXPECT_EQ(t.current(), t.home);
   EXPECT_TRUE(t.shell.fromList);
   EXPECT_EQ(t.rows(), "Toys Books");
+}
+
+TEST(SelectCurrent, FillsTheForm) {
+  TestShell t;
+  t.nameShop();
+  t.open();
+  selectCurrent(t.shell, t.project().root->child);
+  EXPECT_EQ(t.window.page()->text(control::inventory::kTitle), "Toys");
+}
+
+TEST(SelectInTree, MakesTheNodeCurrentAndItsItemVisible) {
+  ShownStore t;
+  StoreNode* home = t.category("Home");
+  StoreNode* toys = t.category("Toys", home);
+  t.product("Ball", toys);
+  t.show(home);
+  selectInTree(t.shell, *toys);
+  EXPECT_EQ(t.tree().selected(), toys->treeItem);
+  EXPECT_THAT(t.tree().calls, testing::ElementsAre("ensureVisible Toys"));
+  EXPECT_EQ(t.project().currentNode, toys);
+  EXPECT_EQ(t.project().treeNode, toys);
+  EXPECT_EQ(t.rows(), "Ball");
+}
+
+TEST(SelectInTree, MakesANodeCurrentThatIsNotShownOrIsSelectedAlready) {
+  ShownStore t;
+  StoreNode* home = t.category("Home");
+  StoreNode* toys = t.category("Toys", home);
+  t.show(home);
+  t.project().currentNode = toys;
+  selectInTree(t.shell, *home);
+  EXPECT_EQ(t.project().currentNode, home);
+  removeTreeItem(t.shell, *toys);
+  selectInTree(t.shell, *toys);
+  EXPECT_EQ(t.project().treeNode, toys);
+  EXPECT_EQ(t.tree().selected(), kNoTreeItem);
+}
+
+TEST(SelectInTree, MakesTheNodeCurrentAlsoWithoutAWindow) {
+  ShownStore t;
+  t.shell.mainWindow = nullptr;
+  StoreNode* home = t.category("Home");
+  selectInTree(t.shell, *home);
+  EXPECT_EQ(t.project().currentNode, home);
 }
 
 }  // namespace

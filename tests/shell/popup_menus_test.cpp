@@ -136,21 +136,5 @@ TEST_F(PopupMenus, ShelvesAndListsAndWhatIsInThemTakeProductsOnly) {
   }
 }
 
-TEST_F(PopupMenus, WhatIsChosenRuns) {
-  t.attach();
-  t.screen.chosenFromMenus = {Command::ToggleToolbar};
-  showPopup(t.shell, listPopup(t.shell));
-  EXPECT_EQ(t.screen.menus.size(), 1U);
-  EXPECT_EQ(t.config().viewFlags, kViewButtons);
-}
-
-TEST_F(PopupMenus, AMenuThatIsLeftDoesNothing) {
-  t.attach();
-  showPopup(t.shell, treePopup(t.shell));
-  EXPECT_EQ(t.screen.menus.size(), 1U);
-  EXPECT_TRUE(t.screen.posted.empty());
-  EXPECT_TRUE(t.screen.boxes.empty());
-}
-
 }  // namespace
 }  // namespace varlo::test

@@ -298,6 +298,7 @@ class RandomWalk {
     if (oneIn(2)) t_.screen.files = {"C:\\Pictures\\ball.gif"};
     const ControlId button = kButtons[below(std::size(kButtons))];
     form()->press(button);
+    runPosted();
     if (button == ids::kPreview && !t_.browsers.calls.empty()) ++previews_;
   }
 

@@ -236,34 +236,6 @@ TEST(TreeItems, ClearingForgetsTheItemsOfNodesOutsideTheTree) {
   EXPECT_EQ(second->treeItem, kNoTreeItem);
 }
 
-TEST(TreeItems, SelectingOneMakesItsNodeCurrentAndVisible) {
-  ShownStore t;
-  StoreNode* home = t.category("Home");
-  StoreNode* toys = t.category("Toys", home);
-  t.product("Ball", toys);
-  t.show(home);
-  selectInTree(t.shell, *toys);
-  EXPECT_EQ(t.tree().selected(), toys->treeItem);
-  EXPECT_THAT(t.tree().calls, testing::ElementsAre("ensureVisible Toys"));
-  EXPECT_EQ(t.project().currentNode, toys);
-  EXPECT_EQ(t.project().treeNode, toys);
-  EXPECT_EQ(t.rows(), "Ball");
-}
-
-TEST(TreeItems, SelectingANodeThatIsNotShownOrIsSelectedMakesItCurrentToo) {
-  ShownStore t;
-  StoreNode* home = t.category("Home");
-  StoreNode* toys = t.category("Toys", home);
-  t.show(home);
-  t.project().currentNode = toys;
-  selectInTree(t.shell, *home);
-  EXPECT_EQ(t.project().currentNode, home);
-  removeTreeItem(t.shell, *toys);
-  selectInTree(t.shell, *toys);
-  EXPECT_EQ(t.project().treeNode, toys);
-  EXPECT_EQ(t.tree().selected(), kNoTreeItem);
-}
-
 TEST(TreeItems, NothingHappensWithoutAWindow) {
   ShownStore t;
   t.shell.mainWindow = nullptr;
@@ -271,9 +243,7 @@ TEST(TreeItems, NothingHappensWithoutAWindow) {
   refillTree(t.shell);
   moveTreeItem(t.shell, *home);
   removeTreeItem(t.shell, *home);
-  selectInTree(t.shell, *home);
   EXPECT_EQ(home->treeItem, kNoTreeItem);
-  EXPECT_EQ(t.project().currentNode, home);
   EXPECT_EQ(nodeOfItem(t.shell, 1), nullptr);
 }
 

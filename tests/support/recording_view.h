@@ -28,6 +28,7 @@ class RecordingView : public View {
   void removeTreeItem(StoreNode& node) override { calls.push_back("removeTreeItem" + named(&node)); }
   void refreshTreeItem(StoreNode& node) override { calls.push_back("refreshTreeItem" + named(&node)); }
   void selectInTree(StoreNode& node) override { calls.push_back("selectInTree" + named(&node)); }
+  void nodeRenamed(StoreNode& node) override { calls.push_back("nodeRenamed" + named(&node)); }
   void loadVariableList() override { calls.emplace_back("loadVariableList"); }
   void loadFreightList() override { calls.emplace_back("loadFreightList"); }
   void loadCardList() override { calls.emplace_back("loadCardList"); }

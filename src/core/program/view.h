@@ -30,6 +30,8 @@ struct View {
   // Refreshes icon and expand flag of an item.
   virtual void refreshTreeItem(StoreNode& /*node*/) {}
   virtual void selectInTree(StoreNode& /*node*/) {}
+  // A node has another title.
+  virtual void nodeRenamed(StoreNode& /*node*/) {}
 
   // Fill the lists of the tabs that show them, if they are open.
   virtual void loadVariableList() {}

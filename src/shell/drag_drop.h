@@ -1,4 +1,4 @@
-// Moving nodes: by key among their siblings, and by drag and drop.
+// Moving nodes by drag and drop, from the tree and from the item list.
 #pragma once
 
 #include "platform/main_window.h"
@@ -6,9 +6,6 @@
 namespace varlo {
 
 struct Shell;
-
-// A key in the tree; true when it is consumed.
-bool onTreeKey(Shell& shell, Key key);
 
 void onTreeDragBegun(Shell& shell, TreeItem item);
 void onListDragBegun(Shell& shell, int row);

@@ -1,4 +1,4 @@
-#include "shell/preview_command.h"
+#include "shell/build_commands.h"
 
 #include <string>
 
@@ -6,10 +6,11 @@
 #include "core/tree/store_tree.h"
 #include "generator/build/first_build_dialog.h"
 #include "generator/build/preview_page.h"
+#include "generator/build/store_build_dialog.h"
 #include "persist/life/template_set.h"
 #include "platform/control_ids.h"
 #include "shell/browser.h"
-#include "shell/commands.h"
+#include "shell/order_server.h"
 #include "shell/shell.h"
 
 namespace varlo {
@@ -37,6 +38,17 @@ void previewCurrent(Shell& shell) {
   project.currentNode = node;
   openInBrowser(shell, page);
   WaitCursorOff(program);
+}
+
+void openBuildWindow(Shell& shell) {
+  if (shell.program.project.currentNode == nullptr || !requireServer(shell)) return;
+  const bool isOpen = shell.buildDialog != nullptr && shell.generator.log.buildWindow == shell.buildDialog.get();
+  if (isOpen && shell.buildWindow != nullptr) {
+    shell.buildWindow->bringToFront();
+    return;
+  }
+  shell.buildDialog = std::make_unique<StoreBuildDialog>(shell.generator);
+  shell.buildWindow = shell.program.screen.openDialog(dialog::kStoreBuild, *shell.buildDialog);
 }
 
 }  // namespace varlo
