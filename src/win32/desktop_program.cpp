@@ -1,7 +1,7 @@
 #include "win32/desktop_program.h"
 
 #include "core/program/start_up.h"
-#include "shell/browser_detection.h"
+#include "shell/browser/browser_detection.h"
 #include "win32/main_window.h"
 
 namespace varlo {

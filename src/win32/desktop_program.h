@@ -5,9 +5,9 @@
 
 #include "core/program/program.h"
 #include "platform/machine.h"
-#include "shell/main_window_shell.h"
-#include "shell/shell.h"
-#include "shell/shell_view.h"
+#include "shell/state/shell.h"
+#include "shell/window/main_window_shell.h"
+#include "shell/window/shell_view.h"
 #include "win32/win32_screen.h"
 
 namespace varlo {

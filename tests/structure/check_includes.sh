@@ -23,6 +23,7 @@ BEGIN {
   rooms("persist", "installation project life dialogs")
   rooms("commerce", "cards freight tax wizard")
   rooms("generator", "state items template pages cart build")
+  rooms("shell", "text state browser tabs tree window")
 
   # Compared in lower case: Windows does not mind the case of a name.
   windows = "^((win|shl|ole|com|msg|dde|rich)[a-z0-9]*|windowsx|winsock2?|ws2tcpip|shellapi|prsht|dlgs|cderr" \

@@ -1,8 +1,8 @@
 // A store in the tree and the item list of a fake main window, and a user to work with it.
 #pragma once
 
-#include "shell/item_list.h"
-#include "shell/tree_items.h"
+#include "shell/tree/item_list.h"
+#include "shell/tree/tree_items.h"
 #include "tests/support/test_shell.h"
 #include "tests/support/tree.h"
 

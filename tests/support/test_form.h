@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "platform/control_ids.h"
-#include "shell/shell.h"
-#include "shell/tab_switch.h"
+#include "shell/state/shell.h"
+#include "shell/tabs/tab_switch.h"
 #include "tests/support/fake_browsers.h"
 #include "tests/support/fake_window.h"
 #include "tests/support/test_program.h"

@@ -1,0 +1,54 @@
+#include "shell/browser/build_commands.h"
+
+#include <string>
+
+#include "core/program/program.h"
+#include "core/tree/store_tree.h"
+#include "generator/build/first_build_dialog.h"
+#include "generator/build/preview_page.h"
+#include "generator/build/store_build_dialog.h"
+#include "persist/life/template_set.h"
+#include "platform/control_ids.h"
+#include "shell/browser/browser.h"
+#include "shell/browser/order_server.h"
+#include "shell/state/shell.h"
+
+namespace varlo {
+namespace {
+
+// Asks for a directory where there is none yet; false when the user cancelled.
+bool haveDirectory(Shell& shell) {
+  if (shell.program.project.webDir.isSet()) return true;
+  FirstBuildDialog logic(shell.generator);
+  return shell.program.screen.runDialog(dialog::kFirstBuild, logic) == 1;
+}
+
+}  // namespace
+
+// Deliberate: without any scheme the wait cursor stays, and the holder of a shelf's or a list's item stays current.
+void previewCurrent(Shell& shell) {
+  Program& program = shell.program;
+  StoreProject& project = program.project;
+  if (project.currentNode == nullptr || !requireServer(shell) || !haveDirectory(shell)) return;
+  WaitCursorOn(program);
+  StoreNode* node = project.currentNode;
+  project.currentNode = PageOf(*node);
+  if (EnsureProjectScheme(program) == 0) return;
+  const std::string page = PreviewPage(shell.generator);
+  project.currentNode = node;
+  openInBrowser(shell, page);
+  WaitCursorOff(program);
+}
+
+void openBuildWindow(Shell& shell) {
+  if (shell.program.project.currentNode == nullptr || !requireServer(shell)) return;
+  const bool isOpen = shell.buildDialog != nullptr && shell.generator.log.buildWindow == shell.buildDialog.get();
+  if (isOpen && shell.buildWindow != nullptr) {
+    shell.buildWindow->bringToFront();
+    return;
+  }
+  shell.buildDialog = std::make_unique<StoreBuildDialog>(shell.generator);
+  shell.buildWindow = shell.program.screen.openDialog(dialog::kStoreBuild, *shell.buildDialog);
+}
+
+}  // namespace varlo

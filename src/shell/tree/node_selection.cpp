@@ -1,0 +1,120 @@
+#include "shell/tree/node_selection.h"
+
+#include "core/program/program.h"
+#include "platform/control_ids.h"
+#include "shell/state/shell.h"
+#include "shell/state/state_display.h"
+#include "shell/tabs/form.h"
+#include "shell/tree/item_list.h"
+#include "shell/tree/tree_items.h"
+
+namespace varlo {
+namespace {
+
+bool ignoresRows(const Shell& shell) {
+  return shell.notificationsMuted || shell.listBusy || shell.treeDragging || shell.listDragging;
+}
+
+void takeTreeNode(Shell& shell, StoreNode& node) {
+  shell.program.project.currentNode = shell.program.project.treeNode = &node;
+  shell.fromList = false;
+}
+
+void takeRow(Shell& shell, StoreNode& node) {
+  shell.program.project.currentNode = &node;
+  shell.fromList = true;
+  loadForm(shell);
+  shell.program.view.showHelp(control::main::kItemList);
+}
+
+void showTreeHelp(Shell& shell) { shell.program.view.showHelp(control::main::kTree); }
+
+}  // namespace
+
+void selectCurrent(Shell& shell, StoreNode* node) {
+  if (node == nullptr) {
+    if (shell.mainWindow != nullptr) shell.mainWindow->controls().enable(control::main::kPreview, false);
+    return;
+  }
+  StoreProject& project = shell.program.project;
+  project.currentNode = project.treeNode = node;
+  shell.fromList = false;
+  followTreeNode(shell);
+  loadItemList(shell, node);
+  loadForm(shell);
+}
+
+void selectInTree(Shell& shell, StoreNode& node) {
+  bool told = false;
+  if (shell.mainWindow != nullptr && node.treeItem != kNoTreeItem) {
+    TreeWindow& tree = shell.mainWindow->tree();
+    told = tree.selected() != node.treeItem;
+    tree.select(node.treeItem);
+    tree.ensureVisible(node.treeItem);
+  }
+  if (!told) selectCurrent(shell, &node);
+}
+
+void onTreeSelection(Shell& shell, TreeItem item) {
+  StoreNode* node = nodeOfItem(shell, item);
+  if (shell.notificationsMuted || node == nullptr) return;
+  takeTreeNode(shell, *node);
+  loadItemList(shell, node);
+  loadForm(shell);
+  showTreeHelp(shell);
+}
+
+void onTreeExpanding(Shell& shell, TreeItem item) {
+  StoreNode* node = nodeOfItem(shell, item);
+  if (shell.notificationsMuted || node == nullptr) return;
+  takeTreeNode(shell, *node);
+  loadForm(shell);
+  showTreeHelp(shell);
+}
+
+void onRowClicked(Shell& shell, int row) {
+  if (ignoresRows(shell)) return;
+  shell.listKeyCountdown = 0;
+  StoreNode* node = nodeOfRow(shell, row);
+  if (node != nullptr) takeRow(shell, *node);
+}
+
+void onRowDoubleClicked(Shell& shell, int row) {
+  if (ignoresRows(shell)) return;
+  StoreNode* node = nodeOfRow(shell, row);
+  if (node == nullptr) return;
+  shell.program.project.currentNode = node;
+  selectInTree(shell, *node);
+}
+
+void onRowChanged(Shell& shell, int row) {
+  if (ignoresRows(shell) || shell.listKeyCountdown == 0) return;
+  if (--shell.listKeyCountdown > 0) return;
+  StoreNode* node = nodeOfRow(shell, row);
+  if (node != nullptr) takeRow(shell, *node);
+}
+
+void onListKey(Shell& shell, Key key, bool control) {
+  shell.listKeyCountdown = kChangesOfAKey;
+  if (key == Key::Delete) shell.program.screen.postCommand(Command::ListDelete);
+  if (key == Key::A && control) shell.program.screen.postCommand(Command::ListSelectAll);
+}
+
+bool onTreeRightClicked(Shell& shell, Point point) {
+  if (ignoresRows(shell) || shell.mainWindow == nullptr) return false;
+  StoreNode* node = nodeOfItem(shell, shell.mainWindow->tree().itemAt(point));
+  shell.hitItem = node != nullptr;
+  if (node != nullptr) selectCurrent(shell, node);
+  refreshCommandStates(shell);
+  return true;
+}
+
+bool onListRightClicked(Shell& shell, Point point) {
+  if (ignoresRows(shell) || shell.mainWindow == nullptr) return false;
+  StoreNode* node = nodeOfRow(shell, shell.mainWindow->list().rowAt(point));
+  shell.hitItem = node != nullptr;
+  if (node != nullptr) takeRow(shell, *node);
+  return true;
+}
+
+}  // namespace varlo

@@ -1,0 +1,50 @@
+#include "shell/window/focus_commands.h"
+
+#include "core/program/program.h"
+#include "shell/state/focus.h"
+#include "shell/state/shell.h"
+#include "shell/tree/item_list.h"
+#include "shell/tree/node_changes.h"
+
+namespace varlo {
+namespace {
+
+using PageAction = void (*)(Dialog& page, ControlId richEdit);
+
+// Runs `action` on the rich edit that has the focus. False when none has. Without a current node the edit is grey,
+// and keeps a focus that it had: what was put there would belong to nothing.
+bool onRichEdit(Shell& shell, PageAction action) {
+  if (shell.tabPage == nullptr || focusPlace(shell) != FocusPlace::RichEdit) return false;
+  if (shell.program.project.currentNode != nullptr) action(*shell.tabPage, richEditOf(shell.currentTab));
+  return true;
+}
+
+}  // namespace
+
+void copyAtFocus(Shell& shell) {
+  if (onRichEdit(shell, [](Dialog& page, ControlId edit) { page.copySelection(edit); })) return;
+  const FocusPlace place = focusPlace(shell);
+  if (place == FocusPlace::Tree || place == FocusPlace::ItemList) copyNode(shell);
+}
+
+// A node is pasted once the menu's own command has ended.
+void pasteAtFocus(Shell& shell) {
+  if (onRichEdit(shell, [](Dialog& page, ControlId edit) { page.paste(edit); })) return;
+  const FocusPlace place = focusPlace(shell);
+  if (place == FocusPlace::Tree) shell.program.screen.postCommand(Command::TreePaste);
+  if (place == FocusPlace::ItemList) shell.program.screen.postCommand(Command::ListPaste);
+}
+
+void deleteAtFocus(Shell& shell) {
+  if (onRichEdit(shell, [](Dialog& page, ControlId edit) { page.replaceSelection(edit, ""); })) return;
+  const FocusPlace place = focusPlace(shell);
+  if (place == FocusPlace::Tree) deleteTreeNode(shell);
+  if (place == FocusPlace::ItemList) deleteRows(shell);
+}
+
+void selectAllAtFocus(Shell& shell) {
+  if (onRichEdit(shell, [](Dialog& page, ControlId edit) { page.selectAll(edit); })) return;
+  selectAllRows(shell);
+}
+
+}  // namespace varlo

@@ -1,0 +1,76 @@
+#include "shell/window/main_window_life.h"
+
+#include <array>
+
+#include "core/program/program.h"
+#include "core/program/start_up.h"
+#include "persist/life/file_steps.h"
+#include "persist/project/project_load.h"
+#include "shell/state/shell.h"
+#include "shell/state/state_display.h"
+#include "shell/tabs/form.h"
+#include "shell/tabs/tab_switch.h"
+#include "shell/tree/item_list.h"
+#include "shell/window/toolbar.h"
+
+namespace varlo {
+namespace {
+
+void tickViews(Shell& shell) {
+  const std::int32_t flags = shell.program.config.viewFlags;
+  shell.mainWindow->checkEntry(Command::ToggleToolbar, (flags & kViewToolbar) != 0);
+  shell.mainWindow->checkEntry(Command::ToggleButtons, (flags & kViewButtons) != 0);
+}
+
+void setTabLabels(MainWindow& window) {
+  std::array<std::string_view, kTabs> labels;
+  for (std::size_t i = 0; i < labels.size(); ++i) labels[i] = traitsOf(static_cast<Tab>(i)).label;
+  window.setTabs(labels);
+}
+
+void setStatusParts(MainWindow& window) {
+  const int parts[] = {window.scaled(100), window.clientSize().width - window.scaled(60), -1};
+  window.setStatusParts(parts);
+}
+
+// The tree is filled, and the window laid out, once it is up.
+void showRest(Shell& shell) {
+  shell.program.screen.postCommand(Command::RefillTree);
+  shell.program.screen.postCommand(Command::ResizeMainWindow);
+  loadForm(shell);
+  shell.program.view.showHelp(kHelpOfTab);
+  shell.mainWindow->createToolbar(toolbarButtons());
+  refreshCommandStates(shell);
+}
+
+ShutDownSteps shutDownSteps(Shell& shell) {
+  ShutDownSteps steps = FileShutDownSteps();
+  steps.stopBuild = [&shell](Program&) { shell.generator.log.stopRequested = true; };
+  return steps;
+}
+
+}  // namespace
+
+void setUpMainWindow(Shell& shell, MainWindow& window) {
+  shell.mainWindow = &window;
+  tickViews(shell);
+  setTabLabels(window);
+  setStatusParts(window);
+  window.list().setColumns(itemListColumns());
+  StartUpInWindow(shell.program, {.loadProject = ProjectLoad,
+                                  .openPage = [&shell](Program&) { openTabPage(shell); },
+                                  .show = [&shell](Program&) { showRest(shell); }});
+}
+
+void closeMainWindow(Shell& shell) {
+  ShutDownWindow(shell.program, shutDownSteps(shell));
+  closeTabPage(shell);
+  shell.mainWindow = nullptr;
+}
+
+void quit(Shell& shell) {
+  ShutDown(shell.program, shutDownSteps(shell));
+  if (shell.mainWindow != nullptr) shell.mainWindow->end();
+}
+
+}  // namespace varlo
