@@ -17,9 +17,8 @@ std::string_view orElse(const Text& text, std::string_view otherwise) {
 }
 
 template <typename... Parts>
-void compose(std::string& buffer, const Parts&... parts) {
-  buffer.clear();
-  (buffer.append(parts), ...);
+void append(std::string& text, const Parts&... parts) {
+  (text.append(parts), ...);
 }
 
 }  // namespace
@@ -54,20 +53,20 @@ Value ItemValues::shownTitle() const { return orElse(item_->pageTitle, item_->ti
 
 const StoreNode* ItemValues::home() const { return generator_.program.project.root; }
 
-Value ItemValues::stripped(const Value& value, std::string& buffer) {
-  compose(buffer, *value);
-  StripTags(buffer);
-  return buffer;
+Value ItemValues::stripped(Composed which, const Value& value) {
+  return composed_[which].get([&value](std::string& text) {
+    text = *value;
+    StripTags(text);
+  });
 }
 
-Value ItemValues::metaTitle() { return stripped(shownTitle(), metaTitle_); }
-Value ItemValues::metaDescription() { return stripped(descriptionRule(), metaDescription_); }
+Value ItemValues::metaTitle() { return stripped(kMetaTitle, shownTitle()); }
+Value ItemValues::metaDescription() { return stripped(kMetaDescription, descriptionRule()); }
 
 Value ItemValues::homeLink() {
   const StoreNode* root = home();
   if (root == nullptr || root->fileName.isNull()) return {};
-  homeLink_ = ForwardSlashes(root->fileName.view());
-  return homeLink_;
+  return composed_[kHomeLink].get([root](std::string& text) { text = ForwardSlashes(root->fileName.view()); });
 }
 
 Value ItemValues::updated() {
@@ -80,39 +79,39 @@ Value ItemValues::updated() {
 }
 
 Value ItemValues::bullet(std::size_t slotNumber) {
-  std::string& buffer = bullets_[slotNumber - kBulletCategory];
-  buffer.clear();
-  const Value name = slot(slotNumber);
-  if (name) AppendBullet(buffer, BaseName(*name));
-  return buffer;
+  return composed_[kBullets + slotNumber - kBulletCategory].get([this, slotNumber](std::string& text) {
+    const Value name = slot(slotNumber);
+    if (name) AppendBullet(text, BaseName(*name));
+  });
 }
 
 Value ItemValues::removeLink() {
-  compose(removeLink_, "javascript:parent.shopregister.removeItem('", item_->productCode.view(), "')");
-  return removeLink_;
+  return composed_[kRemoveLink].get([this](std::string& text) {
+    append(text, "javascript:parent.shopregister.removeItem('", item_->productCode.view(), "')");
+  });
 }
 
 Value ItemValues::addLink() {
-  if (!addLink_.empty()) return addLink_;
-  const StoreNode* parent = LiveParent(*item_);
-  // Deliberate: only a shelf stands in for its items; an item on a list names its own file.
-  const bool onShelf = parent != nullptr && parent->kind == NodeKind::Shelf;
-  std::string tax(orElse(item_->tax, "0"));
-  ReplaceFirst(tax, "%", "");
-  compose(addLink_, "javascript:parent.shopregister.addItem('", (onShelf ? parent : item_)->fileName.view(), "','",
-          item_->productCode.view(), "','", item_->title.view(), "','", orElse(item_->cost, "0.00"), "','",
-          RewriteImageUrl(generator_.program.config, item_->image.view()), "',1,", orElse(item_->weight, "0"), ",",
-          orElse(item_->freight, "0"), ",", tax, ")");
-  return addLink_;
+  return composed_[kAddLink].get([this](std::string& text) {
+    const StoreNode* parent = LiveParent(*item_);
+    // Deliberate: only a shelf stands in for its items; an item on a list names its own file.
+    const bool onShelf = parent != nullptr && parent->kind == NodeKind::Shelf;
+    std::string tax(orElse(item_->tax, "0"));
+    ReplaceFirst(tax, "%", "");
+    append(text, "javascript:parent.shopregister.addItem('", (onShelf ? parent : item_)->fileName.view(), "','",
+           item_->productCode.view(), "','", item_->title.view(), "','", orElse(item_->cost, "0.00"), "','",
+           RewriteImageUrl(generator_.program.config, item_->image.view()), "',1,", orElse(item_->weight, "0"), ",",
+           orElse(item_->freight, "0"), ",", tax, ")");
+  });
 }
 
-Value ItemValues::rewritten(const Text& link, std::string& buffer) {
+Value ItemValues::rewritten(Composed which, const Text& link) {
   if (link.isNull()) return {};
-  buffer = RewriteImageUrl(generator_.program.config, link.view());
-  return buffer;
+  return composed_[which].get(
+      [&](std::string& text) { text = RewriteImageUrl(generator_.program.config, link.view()); });
 }
 
-Value ItemValues::image() { return rewritten(item_->image, image_); }
-Value ItemValues::imageLink() { return rewritten(item_->imageLink, imageLink_); }
+Value ItemValues::image() { return rewritten(kImage, item_->image); }
+Value ItemValues::imageLink() { return rewritten(kImageLink, item_->imageLink); }
 
 }  // namespace varlo

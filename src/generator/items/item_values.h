@@ -1,5 +1,5 @@
-// ItemValues: what the variables stand for, for one item. Composed values stay valid until the next item
-// is taken.
+// ItemValues: what the variables stand for, for one item. Places of a text hold views of the values, so each is
+// composed once, and stays where it is until the next item is taken.
 #pragma once
 
 #include <array>
@@ -23,6 +23,27 @@ void AppendBullet(std::string& text, const Value& name);
 // bullet. The bullets of a scheme hold no keys, so Endless comes from the owner's own HTML only.
 Replaced BulletTag(std::string& text, std::string_view key, const Value& name);
 
+// A text that is composed when it is first asked for.
+class ComposedText {
+ public:
+  void forget() { composed_ = false; }
+
+  // The text, which `compose` appends to an empty one the first time.
+  template <typename Compose>
+  [[nodiscard]] std::string_view get(Compose compose) {
+    if (!composed_) {
+      text_.clear();
+      compose(text_);
+      composed_ = true;
+    }
+    return text_;
+  }
+
+ private:
+  std::string text_;
+  bool composed_ = false;
+};
+
 class ItemValues {
  public:
   explicit ItemValues(Generator& generator) : generator_(generator) {}
@@ -31,7 +52,7 @@ class ItemValues {
   void take(const StoreNode& item) {
     item_ = &item;
     updatedIsTaken_ = false;
-    addLink_.clear();
+    for (ComposedText& text : composed_) text.forget();
   }
 
   [[nodiscard]] Generator& generator() const { return generator_; }
@@ -57,19 +78,25 @@ class ItemValues {
   [[nodiscard]] Value imageLink();  // the same
 
  private:
-  [[nodiscard]] Value stripped(const Value& value, std::string& buffer);
-  [[nodiscard]] Value rewritten(const Text& link, std::string& buffer);
+  // The composed values; the four bullets stand at the end.
+  enum Composed : std::size_t {
+    kMetaTitle,
+    kMetaDescription,
+    kHomeLink,
+    kRemoveLink,
+    kAddLink,
+    kImage,
+    kImageLink,
+    kBullets,
+    kComposed = kBullets + 4,
+  };
+
+  [[nodiscard]] Value stripped(Composed which, const Value& value);
+  [[nodiscard]] Value rewritten(Composed which, const Text& link);
 
   Generator& generator_;
   const StoreNode* item_ = nullptr;
-  std::string metaTitle_;
-  std::string metaDescription_;
-  std::string homeLink_;
-  std::array<std::string, 4> bullets_;
-  std::string removeLink_;
-  std::string addLink_;
-  std::string image_;
-  std::string imageLink_;
+  std::array<ComposedText, kComposed> composed_;
   std::string updated_;
   std::int64_t updatedAt_ = -1;
   bool updatedIsTaken_ = false;  // one moment for all that is filled in for an item

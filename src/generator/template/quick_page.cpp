@@ -14,7 +14,7 @@ void QuickPage::begin(const FillPlan& plan, const PreparedText& text, const Stor
   text_ = &text;
   values_.take(item);
   assembly_.start(plan, text);
-  composedLink_ = metServer_ = metIndex_ = false;
+  composedLink_ = metServer_ = metIndex_ = composedSubindex_ = false;
   letter_ = 0;
   branch_ = nullptr;
   tableOne_.clear();
@@ -97,12 +97,12 @@ bool QuickPage::take(const Use& use, StoreNode& node, const std::string* shelf) 
       if (shelf != nullptr) assembly_.fill(use, *shelf);
       return true;
     case FillSource::IndexBack:
-      if (isOpen(FillSource::Index)) fillIfThere(use, BackOfIndex(node, back_));
+      if (isOpen(FillSource::Index)) fillIfThere(use, BackOfIndex(node, indexBack_));
       return true;
     case FillSource::Index:
       return takeIndex(use, node);
     case FillSource::Back:
-      fillIfThere(use, BackOfPage(node, back_));
+      fillIfThere(use, BackOfPage(node, pageBack_));
       return true;
     case FillSource::Letter:
       if (letter_ == 0) return true;
@@ -195,6 +195,8 @@ bool QuickPage::addLevel(LevelRows& level, const StoreNode& own, const StoreNode
 }
 
 void QuickPage::composeSubindex(const StoreNode& node) {
+  if (composedSubindex_) return;
+  composedSubindex_ = true;
   subindex_.clear();
   const StoreNode* parent = SubindexLevel(node, branch_);
   if (parent == nullptr) return;

@@ -59,11 +59,14 @@ class QuickPage {
   char letter_ = 0;
   const StoreNode* branch_ = nullptr;
 
+  // What is composed for the text in hand, each piece once: its places hold views of them.
   std::string index_;
   std::size_t place_ = 0;  // of $SUBINDEX in the index; its length when there is none
   TextAssembly::Parts indexParts_{};
   std::string subindex_;
-  std::string back_;
+  bool composedSubindex_ = false;
+  std::string indexBack_;
+  std::string pageBack_;
   std::string letterPage_;
   std::string tableTwo_;
   std::string tableOne_;

@@ -95,5 +95,37 @@ TEST_F(ItemValuesTest, AMetaValueIsNotCut) {
   EXPECT_EQ(values.metaTitle()->size(), 9000U);
 }
 
+// Every value that is composed, asked for twice as two places of a text do. The views are of the same bytes.
+TEST_F(ItemValuesTest, AComposedValueStaysWhereItIsUntilTheNextItemIsTaken) {
+  const std::string name(100, 'n');
+  for (StoreNode* node : {t.home, t.ball}) {
+    for (Text* text : {&node->title, &node->fileName, &node->productCode, &node->image, &node->imageLink}) {
+      text->assign(std::string_view(name));
+    }
+  }
+  for (std::size_t i = 24; i < 28; ++i) t.scheme().slot[i].assign(std::string_view(name));
+  const auto all = [this] {
+    std::vector<Value> views{values.metaTitle(),  values.metaDescription(), values.homeLink(), values.updated(),
+                             values.removeLink(), values.addLink(),         values.image(),    values.imageLink()};
+    for (std::size_t i = 24; i < 28; ++i) views.push_back(values.bullet(i));
+    return views;
+  };
+  const std::vector<Value> first = all();
+  const std::vector<Value> second = all();
+  for (std::size_t i = 0; i < first.size(); ++i) EXPECT_EQ(first[i]->data(), second[i]->data()) << i;
+}
+
+TEST_F(ItemValuesTest, AComposedValueIsThatOfTheItemThatWasTakenLast) {
+  t.ball->image.assign("Pics\\Ball.gif");
+  t.home->image.assign("Pics\\Home.gif");
+  EXPECT_EQ(values.image(), Value("img/ball.gif"));
+  EXPECT_EQ(values.metaTitle(), Value("Ball"));
+  const std::string link(*values.addLink());
+  values.take(*t.home);
+  EXPECT_EQ(values.image(), Value("img/home.gif"));
+  EXPECT_EQ(values.metaTitle(), Value("Home"));
+  EXPECT_NE(values.addLink(), Value(link));
+}
+
 }  // namespace
 }  // namespace varlo

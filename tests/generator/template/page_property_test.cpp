@@ -67,11 +67,15 @@ class Draw {
     return text;
   }
 
-  // A value: a plain word, or nothing, or one full of what could disturb.
+  // Nothing, or what makes a text as long as those that owners type: longer than any text that a string
+  // could keep without memory of its own.
+  std::string length() { return std::string(oneIn(2) ? 0 : 20 + below(281), '.'); }
+
+  // A value: a plain word, short or long, or nothing, or one full of what could disturb.
   void fill(Text& text, const char* front = "") {
     if (oneIn(6)) return text.release();
     if (oneIn(6)) return text.assign("");
-    std::string value = std::string(front) + "v" + std::to_string(below(30));
+    std::string value = std::string(front) + "v" + std::to_string(below(30)) + length();
     if (wildness_ > 0 && oneIn(8 / wildness_)) {
       for (std::size_t i = 1 + below(3); i > 0; --i) {
         const std::size_t kind = below(3);
@@ -148,7 +152,8 @@ class RandomShop {
     draw.fill(node.imageLink, "pages/");
     for (Text& text : node.field) draw.fill(text);
     for (Text& text : node.label) draw.fill(text);
-    const std::string name = std::string(draw.oneIn(4) ? "a\\" : "") + std::to_string(number) + ".htm";
+    const std::string name =
+        std::string(draw.oneIn(4) ? "a\\" : "") + std::to_string(number) + draw.length() + ".htm";
     if (draw.oneIn(8)) {
       node.fileName.release();
     } else {

@@ -40,6 +40,14 @@ TEST_F(StoreValues, WhatIsTheSameOnEveryPageIsFilledIn) {
   EXPECT_EQ(prepare("$BGCOLOR $STORETITLE $NOTE $VERSION $HOMELINK $USER."), "WHITE Toys a note 1.07 1.htm shop-12.");
 }
 
+TEST_F(StoreValues, AHomePageWithANameOfAnyLengthIsFilledIn) {
+  for (std::size_t length = 1; length <= 300; ++length) {
+    const std::string name(length, 'h');
+    t.home->fileName.assign(std::string_view(name));
+    ASSERT_EQ(prepare("<a href=\"$HOMELINK\">$HOMELINK</a>."), "<a href=\"" + name + "\">" + name + "</a>.");
+  }
+}
+
 TEST_F(StoreValues, WhatBelongsToAnItemStays) {
   EXPECT_EQ(prepare("$TITLE $CODE $INDEX $ADD $VARLO_SERVER $UPDATED."),
             "$TITLE $CODE $INDEX $ADD $VARLO_SERVER $UPDATED.");
