@@ -99,21 +99,38 @@ class Angles {
   std::size_t seen_ = 0;
 };
 
+// The next ">" of what lies ahead. It is looked for once, and is the next one until it is passed; what lies behind
+// it stays as long as it is.
+class NextGreater {
+ public:
+  [[nodiscard]] std::size_t find(std::string_view ahead, std::size_t from) {
+    if (left_ == 0 || left_ + from > ahead.size()) {
+      const std::size_t at = ahead.find('>', from);
+      left_ = at == kNone ? 0 : ahead.size() - at;
+    }
+    return left_ == 0 ? kNone : ahead.size() - left_;
+  }
+
+ private:
+  std::size_t left_ = 0;  // from it to the end of the text; 0 while it is not known
+};
+
 Replaced removeTagAware(std::string& text, std::string_view key) {
   Seam seam(std::move(text));
   Angles angles;
+  NextGreater greater;
   Replaced result = Replaced::Done;
   for (std::size_t at = 0; (at = seam.ahead().find(key)) != kNone;) {
     seam.pass(at);
     angles.follow(seam.done());
+    const std::size_t end = greater.find(seam.ahead(), key.size());
+    if (end == kNone) {
+      result = Replaced::Endless;
+      break;
+    }
     if (!angles.empty() && seam.done()[angles.last()] == '>') {
       seam.drop(key.size());
     } else {
-      const std::size_t end = seam.ahead().find('>');
-      if (end == kNone) {
-        result = Replaced::Endless;
-        break;
-      }
       seam.drop(end + 1);
       seam.cutDone(angles.last());
     }

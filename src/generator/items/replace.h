@@ -45,7 +45,8 @@ inline void ReplaceFour(std::string& text, std::string_view key, const Value& va
 // The mode for optional attributes. With a value every key becomes it, and the value is not searched
 // again. Without one, or with an empty one, the first key goes, again and again: alone when a ">" is the
 // first angle bracket in front of it, and with the whole tag around it, from the "<" in front (or the
-// start of the text) through the next ">", otherwise. Endless when that ">" is missing.
+// start of the text) through the next ">", otherwise. Endless when no ">" stands behind the key: it then stays
+// in either case, with what follows.
 [[nodiscard]] Replaced SubstituteTagAware(std::string& text, std::string_view key, const Value& value);
 
 }  // namespace varlo

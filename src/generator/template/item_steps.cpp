@@ -54,7 +54,7 @@ Value updated(ItemValues& values) { return values.updated(); }
 Value currency(ItemValues& values) { return emptied(projectOf(values).currency); }
 Value removeLink(ItemValues& values) { return values.removeLink(); }
 Value addLink(ItemValues& values) { return values.addLink(); }
-Value price(ItemValues& values) { return values.item().cost.isNull() ? Value("0") : values.item().cost.view(); }
+Value price(ItemValues& values) { return values.item().cost.isSet() ? values.item().cost.view() : Value("0"); }
 Value server(ItemValues& values) { return emptied(configOf(values).orderServer); }
 Value image(ItemValues& values) { return values.image(); }
 Value imageLink(ItemValues& values) { return values.imageLink(); }

@@ -97,6 +97,17 @@ bool TextAssembly::findTagEnd(std::size_t segment, std::uint32_t keySize, Positi
   return false;
 }
 
+// Whether a ">" stands anywhere behind the key of a segment, in the text as it is now.
+bool TextAssembly::hasGreaterBehind(std::size_t segment, std::uint32_t keySize) const {
+  std::uint32_t from = segments_[segment].begin + keySize;
+  while (source(from, segments_[segment].end).find('>') == kNone) {
+    if (++segment == segments_.size()) return false;
+    if (segments_[segment].value.find('>') != kNone) return true;
+    from = segments_[segment].begin;
+  }
+  return true;
+}
+
 bool TextAssembly::cut(const Position& from, const Position& to) {
   // A "$" in the tag that begins no place could have been completed by a value; one in front of the tag
   // could be completed by what follows the tag.
@@ -128,6 +139,7 @@ bool TextAssembly::removeTagAware(const PreparedText::Use& use) {
     Position end;
     if (!findAngleBefore(place, angle)) return false;
     if (angle.isGreater) {
+      if (!hasGreaterBehind(place, keySize)) return false;
       segment.open = false;
       segment.begin += keySize;
       continue;

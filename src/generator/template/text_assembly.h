@@ -67,6 +67,7 @@ class TextAssembly {
   void fillEach(const PreparedText::Use& use, Put put);
   [[nodiscard]] bool findAngleBefore(std::size_t segment, Position& angle) const;
   [[nodiscard]] bool findTagEnd(std::size_t segment, std::uint32_t keySize, Position& end) const;
+  [[nodiscard]] bool hasGreaterBehind(std::size_t segment, std::uint32_t keySize) const;
   [[nodiscard]] bool cut(const Position& from, const Position& to);
   [[nodiscard]] std::size_t filledSize() const;
   [[nodiscard]] bool holdsOnlyKnownKeys(std::string_view result) const;

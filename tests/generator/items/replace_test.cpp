@@ -101,8 +101,8 @@ TEST(Replace, ManyOccurrencesTakeNoLongerThanTheirBytes) {
   joined += std::string(300000, 'K');
   EXPECT_EQ(all(keys, "$K", "xyz").size(), 900000U);
   EXPECT_EQ(all(joined, "$K", ""), "");
-  EXPECT_EQ(tag(">" + keys, "$K", ""), ">");
-  EXPECT_EQ(tag(">" + joined, "$K", ""), ">");
+  EXPECT_EQ(tag(">" + keys + ">", "$K", ""), ">>");
+  EXPECT_EQ(tag(">" + joined + ">", "$K", ""), ">>");
   std::string tags;
   for (int i = 0; i < 200000; ++i) tags += "<$K>";
   EXPECT_EQ(tag(tags, "$K", ""), "");
@@ -127,7 +127,7 @@ TEST(TagAware, WithoutAValueTheTagAroundTheKeyGoes) {
 
 TEST(TagAware, WithoutAValueAKeyInPlainTextGoesAlone) {
   EXPECT_EQ(tag("<b>x $K y</b>", "$K", ""), "<b>x  y</b>");
-  EXPECT_EQ(tag("</a>$K", "$K", ""), "</a>") << "a bracket in front is enough, none need follow";
+  EXPECT_EQ(tag("</a>$K>", "$K", ""), "</a>>");
   EXPECT_EQ(tag("<p>$K$K<img $K>", "$K", Value()), "<p>");
 }
 
@@ -144,12 +144,14 @@ TEST(TagAware, ABracketAsTheFirstByteCounts) {
 TEST(TagAware, WithoutABracketBehindItIsEndlessAndTheTextStays) {
   EXPECT_EQ(tag("plain $K", "$K", ""), "endless: plain $K");
   EXPECT_EQ(tag("<b>a</b><img src=$K", "$K", Value()), "endless: <b>a</b><img src=$K");
-  EXPECT_EQ(tag("<p>$K<img src=$K", "$K", ""), "endless: <p><img src=$K") << "what went before it is gone";
+  EXPECT_EQ(tag("<p>$K</p><img src=$K", "$K", ""), "endless: <p></p><img src=$K") << "what went before it is gone";
+  EXPECT_EQ(tag("</a>$K", "$K", ""), "endless: </a>$K") << "a bracket in front is not enough";
+  EXPECT_EQ(tag("<p>$K<b>$K$K", "$K", ""), "endless: <p><b>$K$K");
 }
 
 TEST(TagAware, WhatIsLeftCanJoinToAKey) {
-  EXPECT_EQ(tag(">$$KK", "$K", ""), ">");
-  EXPECT_EQ(tag(">$<$K>K", "$K", ""), ">");
+  EXPECT_EQ(tag(">$$KK>", "$K", ""), ">>");
+  EXPECT_EQ(tag(">$<$K>K>", "$K", ""), ">>");
   EXPECT_EQ(tag("<$<x $K>K>y", "$K", ""), "y");
 }
 
@@ -173,15 +175,14 @@ std::string literalTag(std::string text, const std::string& key) {
   for (;;) {
     const std::size_t at = text.find(key);
     if (at == std::string::npos) return text;
+    if (text.find('>', at) == std::string::npos) return "endless: " + text;
     std::size_t angle = at;
     while (angle > 0 && text[angle] != '<' && text[angle] != '>') --angle;
     if (text[angle] == '>') {
       text.erase(at, key.size());
       continue;
     }
-    const std::size_t end = text.find('>', angle);
-    if (end == std::string::npos) return "endless: " + text;
-    text.erase(angle, end + 1 - angle);
+    text.erase(angle, text.find('>', angle) + 1 - angle);
   }
 }
 

@@ -246,6 +246,7 @@ TEST_F(ItemStepRows, AValueThatIsThereButEmptyRemovesTheKey) {
     set(row, "");
     std::string expected = "<p></p><i x=>z";
     if (row.absent == Absent::Tag) expected = "<p></p>z";
+    if (row.absent == Absent::Zero) expected = "<p>0</p><i x=0>z";  // to a price, empty and absent are one
     if (row.absent == Absent::Never || *row.before == '<') {
       expected = "<p>" + shown(row, "") + "</p><i x=" + shown(row, "") + ">z";
     }

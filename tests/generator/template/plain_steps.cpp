@@ -114,14 +114,14 @@ class Steps {
       at += value.size();
     }
     while (value.empty() && (at = text.find(key)) != kNone) {
+      const std::size_t end = text.find('>', at);
+      if (end == kNone) return error("error: " + file() + ": endless replacement of '" + key + "'");
       std::size_t back = at;
       while (back > 0 && text[back] != '<' && text[back] != '>') --back;
       if (text[back] == '>') {
         text.erase(at, key.size());
         continue;
       }
-      const std::size_t end = text.find('>', at);
-      if (end == kNone) return error("error: " + file() + ": endless replacement of '" + key + "'");
       text.erase(back, end + 1 - back);
     }
   }
@@ -227,7 +227,7 @@ class Steps {
     takeAll(text, "$FREIGHT", item.freight.orEmpty());
     takeAll(text, "$WEIGHT", item.weight.orEmpty());
     takeAll(text, "$TAX", item.tax.orEmpty());
-    takeAll(text, "$PRICE", item.cost.isNull() ? "0" : item.cost.get());
+    takeAll(text, "$PRICE", orElse(item.cost, "0"));
     if (text.find("$VARLO_SERVER") != kNone) {
       if (!program_.config.orderServer.isSet()) error("error: Varlo Server must be defined in preferences!");
       takeAll(text, "$VARLO_SERVER", program_.config.orderServer.orEmpty());

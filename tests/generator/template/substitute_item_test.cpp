@@ -94,7 +94,7 @@ TEST_F(SubstituteItemTest, ButtonsAndBulletsGoByTheirBaseNames) {
 TEST_F(SubstituteItemTest, PricesWithoutACost) {
   EXPECT_EQ(fill("[$PRICE][$COST]").text, "[0][]");
   t.ball->cost.assign("");
-  EXPECT_EQ(fill("[$PRICE][$COST]").text, "[][]");
+  EXPECT_EQ(fill("[$PRICE][$COST]").text, "[0][]") << "an empty cost is none";
   EXPECT_EQ(fill("$BUY").text, "javascript:parent.shopregister.addItem('2.htm','B1','Ball','0.00','',1,0,0,0)");
   t.ball->cost.assign("5.50");
   EXPECT_EQ(fill("[$PRICE][$COST]").text, "[5.50][5.50]");
@@ -256,7 +256,7 @@ TEST_F(SubstituteItemTest, VariablesOfTheCartAndOfRowsStay) {
 TEST_F(SubstituteItemTest, AnEmptyPictureTakesItsTagAway) {
   EXPECT_EQ(fill("a<img src=\"$IMAGE\" alt=\"x\">b").text, "ab");
   EXPECT_EQ(fill("<a href=\"$LINK\">x</a>").text, "x</a>");
-  EXPECT_EQ(fill("</b>$IMAGE.").text, "</b>.");
+  EXPECT_EQ(fill("</b>$IMAGE.<br>").text, "</b>.<br>");
 }
 
 TEST_F(SubstituteItemTest, ALinkIsRewrittenToThePicturesUnlessItIsOutside) {
@@ -287,7 +287,27 @@ TEST_F(SubstituteItemTest, ATagAwareVariableWithoutAnEndOfItsTagIsEndless) {
   const Filled filled = fill("plain $F1 and $PRICE");
   EXPECT_EQ(filled.text, "plain $F1 and 0");
   EXPECT_THAT(filled.lines, ElementsAre("error: 2.htm: endless replacement of '$F1'"));
-  EXPECT_THAT(fill("<b>$F1").lines, IsEmpty()) << "behind a bracket it only goes";
+  EXPECT_THAT(fill("<b>$F1</b>").lines, IsEmpty());
+}
+
+TEST_F(SubstituteItemTest, ATagAwareVariableBehindATagIsEndlessWithoutABracketBehindIt) {
+  for (const char* text : {"<b>$F1", "<b>$F1 and $TITLE", "<p>x</p>$F1$F1"}) {
+    const Filled filled = fill(text);
+    EXPECT_THAT(filled.lines, ElementsAre("error: 2.htm: endless replacement of '$F1'")) << text;
+    EXPECT_EQ(filled.errors, 1);
+    EXPECT_NE(filled.text.find("$F1"), std::string::npos) << "it stays";
+  }
+  EXPECT_EQ(fill("<b>$F1 and $TITLE").text, "<b>$F1 and Ball") << "the steps behind it go on";
+}
+
+TEST_F(SubstituteItemTest, ABracketBehindATagAwareVariableMayComeWithAValue) {
+  t.ball->body.assign("<i>body</i>");
+  const Filled filled = fill("<b>$F1 $BODY");
+  EXPECT_EQ(filled.text, "<b> <i>body</i>");
+  EXPECT_TRUE(filled.quick);
+  t.ball->title.assign("title>");
+  EXPECT_THAT(fill("<b>$F1 $TITLE").lines, ElementsAre("error: 2.htm: endless replacement of '$F1'"))
+      << "but not with one whose step comes later";
 }
 
 TEST_F(SubstituteItemTest, ATitleOrABodyMayQuoteItsOwnName) {

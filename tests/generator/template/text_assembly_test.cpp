@@ -63,20 +63,27 @@ TEST(TextAssembly, RefusesAJointThatMakesAKey) {
 }
 
 TEST(TextAssembly, RemovesATagAwareKeyAloneOrWithItsTag) {
-  EXPECT_EQ(assemble("<p>$F1.", {{"$F1", ""}}), "<p>.");
+  EXPECT_EQ(assemble("<p>$F1.</p>", {{"$F1", ""}}), "<p>.</p>");
   EXPECT_EQ(assemble("a<img src=$F1 alt=x>b", {{"$F1", ""}}), "ab");
   EXPECT_EQ(assemble("a $F1 b>c", {{"$F1", ""}}), "c") << "from the start of the text";
-  EXPECT_EQ(assemble("<a $F1><b $F1 $F1>c<i>$F1.", {{"$F1", ""}}), "c<i>.");
+  EXPECT_EQ(assemble("<a $F1><b $F1 $F1>c<i>$F1.>", {{"$F1", ""}}), "c<i>.>");
   EXPECT_EQ(assemble("x<a $F1 title=$COST id=$TITLE>y", {{"$F1", ""}, {"$COST", "1"}, {"$TITLE", "t"}}), "xy");
   EXPECT_EQ(assemble("$COST<a $F1>$CODE.", {{"$F1", ""}, {"$COST", "1"}, {"$CODE", "2"}}), "12.");
 }
 
 TEST(TextAssembly, RefusesATagWithoutAnEndAndOneThatAValueDisturbs) {
   EXPECT_EQ(assemble("a $F1 b", {{"$F1", ""}}), "(refused)");
+  EXPECT_EQ(assemble("<p>$F1 b", {{"$F1", ""}}), "(refused)") << "behind a tag as well";
+  EXPECT_EQ(assemble("<p>$F1 $TITLE", {{"$F1", ""}, {"$TITLE", "a>"}}), "(refused)") << "a value that is not in yet";
   EXPECT_EQ(assemble("<a $COST $F1>b", {{"$F1", ""}, {"$COST", "1>2"}}), "(refused)");
   EXPECT_EQ(assemble("<a $F1 $COST>b", {{"$F1", ""}, {"$COST", "<i>"}}), "(refused)");
   EXPECT_EQ(assemble("<a $F1 $COST>b", {{"$F1", ""}, {"$COST", "$"}}), "(refused)");
   EXPECT_EQ(assemble("<p>$COST$F1.", {{"$F1", ""}, {"$COST", "1>2"}}), "(refused)");
+}
+
+TEST(TextAssembly, AnyBracketBehindAKeyBetweenTagsWillDo) {
+  EXPECT_EQ(assemble("<p>$F1 $BODY", {{"$F1", ""}, {"$BODY", "<i>"}}), "<p> <i>");
+  EXPECT_EQ(assemble("<p>$F1 $BODY $COST>", {{"$F1", ""}, {"$BODY", "$"}, {"$COST", "1"}}), "<p> $ 1>");
 }
 
 TEST(TextAssembly, RefusesACutThatCouldJoinAKey) {
