@@ -67,7 +67,11 @@ class FakeWindow : public Dialog {
   [[nodiscard]] bool isOpen() const { return open_; }
   [[nodiscard]] int result() const { return result_; }
   [[nodiscard]] ControlId focused() const { return focused_; }
-  [[nodiscard]] int limitOf(ControlId control) const { return limits_.at(control); }
+  // The limit of a field, 0 when none was set.
+  [[nodiscard]] int limitOf(ControlId control) const {
+    const auto found = limits_.find(control);
+    return found == limits_.end() ? 0 : found->second;
+  }
   [[nodiscard]] const std::vector<std::string>& comboRows(ControlId control) { return combos_[control]; }
   [[nodiscard]] const std::vector<ListColumn>& columns(ControlId list) { return columns_[list]; }
   [[nodiscard]] int rowCount(ControlId list) { return rows_[list].count; }

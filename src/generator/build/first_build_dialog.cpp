@@ -19,8 +19,7 @@ void enableOk(Dialog& dialog) { dialog.enable(control::kOk, !dialog.text(kDirect
 
 void FirstBuildDialog::opened(Dialog& dialog) {
   const StoreProject& project = generator_.program.project;
-  dialog.limitText(kDirectory, kBuildFieldLimit);
-  dialog.limitText(kTitle, kBuildFieldLimit);
+  dialog.limitText(kDirectory, kDirectoryLimit);
   dialog.setText(kDirectory, StartDirectory(project));
   dialog.setText(kTitle, project.storeTitle.view());
   enableOk(dialog);

@@ -24,8 +24,7 @@ void StoreBuildDialog::opened(Dialog& dialog) {
   const StoreProject& project = generator_.program.project;
   window_ = &dialog;
   generator_.log.buildWindow = this;
-  dialog.limitText(kDirectory, kBuildFieldLimit);
-  dialog.limitText(kTitle, kBuildFieldLimit);
+  dialog.limitText(kDirectory, kDirectoryLimit);
   dialog.setText(kDirectory, StartDirectory(project));
   dialog.setText(kTitle, project.storeTitle.view());
   dialog.setProgressTop(kProgress, project.nodesRead);

@@ -11,7 +11,7 @@ std::string StartDirectory(const StoreProject& project) {
 
 bool CheckDirectoryName(Program& program, std::string_view directory) {
   if (directory.find_first_of("/,") == std::string_view::npos) return true;
-  ErrorBox(program, message::kInvalidDirectory);
+  program.screen.messageBox({.text = message::kInvalidDirectory, .title = "Error", .icon = Icon::Stop});
   return false;
 }
 

@@ -9,8 +9,8 @@ namespace varlo {
 struct Program;
 struct StoreProject;
 
-// The longest text that the fields for directory and title take.
-inline constexpr int kBuildFieldLimit = 512;
+// The longest text that the field for the directory takes; that for the title is not limited.
+inline constexpr int kDirectoryLimit = 512;
 
 // What the field for the directory starts with, whatever webDir holds.
 [[nodiscard]] std::string StartDirectory(const StoreProject& project);

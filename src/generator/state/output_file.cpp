@@ -9,7 +9,7 @@ namespace varlo {
 
 std::string OutputPath(const StoreProject& project, std::string_view name) {
   std::string path;
-  if (project.webDir.isNull()) {
+  if (!project.webDir.isSet()) {
     path.append(project.projectDir.view()).append("\\web");
   } else {
     path.append(project.webDir.view());

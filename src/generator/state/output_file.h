@@ -9,7 +9,7 @@ namespace varlo {
 struct Program;
 struct StoreProject;
 
-// Full name of a generated file: in webDir, or, when that is absent, in "web" below the project.
+// Full name of a generated file: in webDir, or, when there is none, in "web" below the project.
 [[nodiscard]] std::string OutputPath(const StoreProject& project, std::string_view name);
 
 // Writes a text over any old file, with every run of back slashes in the path reduced to one. 1 written, 0

@@ -255,7 +255,7 @@ TEST_F(Build, ADirectoryWithASlashOrACommaIsRefusedBeforeAnythingIsTouched) {
     EXPECT_EQ(build(directory), 0);
     EXPECT_THAT(t.screen.boxes,
                 ElementsAre(ShownBox{"Invalid Directory Name.  Must not include forward slash characters or commas.",
-                                     "Error"}));
+                                     "Error", Buttons::Ok, Icon::Stop}));
     EXPECT_THAT(t.files.log, IsEmpty());
     EXPECT_THAT(t.window.lines, ElementsAre(kReadyText, ""));
     EXPECT_STREQ(project.webDir.get(), "C:\\Web");

@@ -42,10 +42,14 @@ TEST_F(StoreBuild, AnAbsentTitleShowsAsAnEmptyFieldAndIsStoredEmpty) {
   EXPECT_STREQ(t.project().storeTitle.get(), "");
 }
 
-TEST_F(StoreBuild, BothFieldsTake512Characters) {
+TEST_F(StoreBuild, TheDirectoryTakes512CharactersAndTheTitleAnyNumber) {
   window.open();
   EXPECT_EQ(window.limitOf(kDirectory), 512);
-  EXPECT_EQ(window.limitOf(kTitle), 512);
+  EXPECT_EQ(window.limitOf(kTitle), 0) << "no limit was set";
+  const std::string title(5000, 't');
+  window.type(kTitle, title);
+  window.press(kBuild);
+  EXPECT_EQ(t.project().storeTitle.view(), title);
 }
 
 TEST_F(StoreBuild, BuildIsOfferedOnlyWithADirectory) {

@@ -20,7 +20,7 @@ TEST(OutputFile, WithoutAWebDirectoryItLiesBelowTheProject) {
   t.project().webDir.release();
   EXPECT_EQ(OutputPath(t.project(), "a.htm"), "C:\\Varlo\\Projects\\Shop\\web\\a.htm");
   t.project().webDir.assign("");
-  EXPECT_EQ(OutputPath(t.project(), "a.htm"), "\\a.htm") << "an empty one is there";
+  EXPECT_EQ(OutputPath(t.project(), "a.htm"), "C:\\Varlo\\Projects\\Shop\\web\\a.htm") << "an empty one is none";
 }
 
 TEST(OutputFile, TheOldFileIsDeletedFirst) {
