@@ -32,7 +32,7 @@ struct FoundFile {
 struct Files {
   virtual ~Files() = default;
 
-  // Opens an existing file for reading; kNoFile on failure, also for a folder.
+  // Opens an existing file for reading; kNoFile on failure, also for a folder and for what is no plain file.
   [[nodiscard]] virtual FileHandle openRead(std::string_view path) = 0;
   // Creates the file, or empties the one that is there, and opens it for writing; kNoFile on failure.
   [[nodiscard]] virtual FileHandle create(std::string_view path) = 0;

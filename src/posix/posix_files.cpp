@@ -40,10 +40,11 @@ bool isSameFile(const std::string& left, const std::string& right) {
 
 bool isWineRoot(std::string_view path) { return path.size() >= 2 && (path[0] | 0x20) == 'z' && path[1] == ':'; }
 
+// Nothing is waited for: what has no other end yet fails, or is closed again for what it is.
 int retryOpen(const std::string& path, int flags) {
   int descriptor = -1;
   do {
-    descriptor = ::open(path.c_str(), flags | O_CLOEXEC, kFileMode);
+    descriptor = ::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, kFileMode);
   } while (descriptor < 0 && errno == EINTR);
   return descriptor;
 }
@@ -113,18 +114,19 @@ PosixFiles::Place PosixFiles::findOther(std::string host) {
   return place;
 }
 
-FileHandle PosixFiles::opened(int descriptor, bool mayBeFolder) {
+// Takes files alone: a pipe could be waited for without end, and a device read without one. Writing to a device
+// that takes bytes one by one does end, and shows what a full disk does.
+FileHandle PosixFiles::opened(int descriptor, bool forWriting) {
   if (descriptor < 0) {
     error_ = errno;
     return kNoFile;
   }
   struct stat status {};
-  if (mayBeFolder && ::fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode)) {
-    ::close(descriptor);
-    error_ = EISDIR;
-    return kNoFile;
-  }
-  return descriptor;
+  const bool known = ::fstat(descriptor, &status) == 0;
+  if (known && (S_ISREG(status.st_mode) || (forWriting && S_ISCHR(status.st_mode)))) return descriptor;
+  error_ = known && S_ISDIR(status.st_mode) ? EISDIR : ENXIO;
+  ::close(descriptor);
+  return kNoFile;
 }
 
 FileHandle PosixFiles::openRead(std::string_view path) {
@@ -135,15 +137,16 @@ FileHandle PosixFiles::openRead(std::string_view path) {
     errno = ENOENT;
     if (place.exists) descriptor = retryOpen(place.path(), O_RDONLY);
   }
-  return opened(descriptor, true);
+  return opened(descriptor, false);
 }
 
-FileHandle PosixFiles::create(std::string_view path) { return opened(openNew(path, O_TRUNC), false); }
+FileHandle PosixFiles::create(std::string_view path) { return opened(openNew(path, O_TRUNC), true); }
 
 FileHandle PosixFiles::createOver(std::string_view path) {
   if (overwritten_ >= 0) return create(path);
-  overwritten_ = openNew(path, 0);
-  return opened(overwritten_, false);
+  const FileHandle file = opened(openNew(path, 0), true);
+  overwritten_ = static_cast<int>(file);
+  return file;
 }
 
 // Opens a file for writing, with `emptying` as a flag of the system. A file that was there before is opened

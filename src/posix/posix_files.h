@@ -48,7 +48,7 @@ class PosixFiles : public Files {
   Place findOther(std::string host);
   std::string findFolder(const std::string& path);
   int openNew(std::string_view path, int emptying);
-  FileHandle opened(int descriptor, bool mayBeFolder);
+  FileHandle opened(int descriptor, bool forWriting);
   bool failed(int error);
 
   std::string folder_;

@@ -97,4 +97,19 @@ run 1 --install install build Projects/Toys/Toys.stp --to blocked/site
 shows 'critical error: unable to create directory'
 shows 'Build Stopped'
 
+# What is no plain file cannot be opened, and nobody waits for it.
+if [ -z "${VARLO_NATIVE_CLI:-}" ]; then
+  printf 'server=http://orders.example/order\nid=toys-1234\n' >install/server.ini
+  printf f >install/img/f.gif
+  rm $shop/pictures/Ball.gif $shop/Template/product.htm
+  mkfifo $shop/pictures/Ball.gif $shop/Template/product.htm
+  run 0 --install install build Projects/Toys/Toys.stp --to piped
+  shows "warning: Ball One.htm: unable to read image file: 'Projects\Toys\pictures\Ball.gif'"
+  shows 'Store Build Complete. (0 errors, 1 warnings)'
+  rm install/piped/1.htm
+  mkfifo install/piped/1.htm
+  run 0 --install install build Projects/Toys/Toys.stp --to piped
+  tells 'ERROR R107: Unable to open HTML output file'
+fi
+
 ends 'varlo-cli builds stores.'

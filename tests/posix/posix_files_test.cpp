@@ -9,7 +9,12 @@
 #include <string>
 #include <vector>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include "core/text/open_file.h"
 
@@ -53,6 +58,16 @@ class PosixFilesTest : public testing::Test {
     for (const auto& entry : fs::directory_iterator(host(name))) names.push_back(entry.path().filename().string());
     std::sort(names.begin(), names.end());
     return names;
+  }
+  // Things that have names as files have, and whose bytes come from elsewhere, if ever.
+  void putPipe(const std::string& name) const { ASSERT_EQ(::mkfifo(host(name).c_str(), 0600), 0); }
+  void putSocket(const std::string& name) const {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    ASSERT_LT(host(name).copy(address.sun_path, sizeof address.sun_path - 1), sizeof address.sun_path - 1);
+    const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    ASSERT_EQ(::bind(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+    ::close(socket);
   }
   // Makes the time of the folder's last change an old one, so that the next change shows whatever the
   // resolution of the disk's clock is.
@@ -166,6 +181,41 @@ TEST_F(PosixFilesOpenRead, FailsForAFolder) {
   EXPECT_EQ(files_.openRead("."), kNoFile);
 }
 
+TEST_F(PosixFilesOpenRead, FailsForAPipeWithoutWaitingForItsWriter) {
+  putPipe("Pipe.gif");
+  EXPECT_EQ(files_.openRead("Pipe.gif"), kNoFile);
+  EXPECT_EQ(files_.openRead("PIPE.GIF"), kNoFile) << "in any case";
+  EXPECT_FALSE(files_.errorText().empty());
+}
+
+TEST_F(PosixFilesOpenRead, FailsForAPipeThatHasAWriter) {
+  putPipe("pipe");
+  const int reader = ::open(host("pipe").c_str(), O_RDONLY | O_NONBLOCK);
+  const int writer = ::open(host("pipe").c_str(), O_WRONLY);
+  EXPECT_EQ(files_.openRead("pipe"), kNoFile);
+  ::close(writer);
+  ::close(reader);
+}
+
+TEST_F(PosixFilesOpenRead, FailsForADevice) {
+  for (const char* device : {"Z:\\dev\\zero", "Z:\\dev\\null", "Z:\\dev\\full", "Z:\\dev\\random", "Z:\\dev\\tty"}) {
+    EXPECT_EQ(files_.openRead(device), kNoFile) << device;
+  }
+  fs::create_symlink("/dev/zero", host("endless.gif"));
+  EXPECT_EQ(files_.openRead("endless.gif"), kNoFile) << "through a link as well";
+}
+
+TEST_F(PosixFilesOpenRead, FailsForASocket) {
+  putSocket("socket");
+  EXPECT_EQ(files_.openRead("socket"), kNoFile);
+}
+
+TEST_F(PosixFilesOpenRead, OpensAFileThroughALink) {
+  putOnHost("a.txt", "text");
+  fs::create_symlink("a.txt", host("link.txt"));
+  EXPECT_EQ(content("link.txt"), "text");
+}
+
 TEST_F(PosixFilesOpenRead, FailsForAFileUsedAsAFolder) {
   putOnHost("a.txt", "text");
   EXPECT_EQ(files_.openRead("a.txt\\b.txt"), kNoFile);
@@ -239,6 +289,39 @@ TEST_F(PosixFilesCreate, FailsOnAFolderOfTheName) {
   EXPECT_EQ(files_.create("Web"), kNoFile);
   EXPECT_EQ(files_.create("web"), kNoFile);
   EXPECT_EQ(hostNames(), Names{"Web"});
+}
+
+TEST_F(PosixFilesCreate, FailsOnAPipeWithoutWaitingForItsReader) {
+  putPipe("pipe");
+  EXPECT_EQ(files_.create("pipe"), kNoFile);
+  EXPECT_EQ(files_.createOver("pipe"), kNoFile);
+  EXPECT_EQ(files_.create("PIPE"), kNoFile);
+}
+
+TEST_F(PosixFilesCreate, FailsOnAPipeThatHasAReader) {
+  putPipe("pipe");
+  const int reader = ::open(host("pipe").c_str(), O_RDONLY | O_NONBLOCK);
+  EXPECT_EQ(files_.create("pipe"), kNoFile);
+  EXPECT_EQ(files_.createOver("pipe"), kNoFile);
+  char byte = 0;
+  EXPECT_EQ(::read(reader, &byte, 1), 0) << "nothing was written to it";
+  ::close(reader);
+}
+
+TEST_F(PosixFilesCreate, FailsOnASocket) {
+  putSocket("socket");
+  EXPECT_EQ(files_.create("socket"), kNoFile);
+}
+
+TEST_F(PosixFilesCreate, AFailureOverAnOldFileLeavesTheNextOneWhole) {
+  putPipe("pipe");
+  putOnHost("a.txt", "a longer text");
+  EXPECT_EQ(files_.createOver("pipe"), kNoFile);
+  {
+    const OpenFile file(files_, files_.createOver("a.txt"));
+    files_.write(file.handle(), "new", 3);
+  }
+  EXPECT_EQ(onHost("a.txt"), "new");
 }
 
 TEST_F(PosixFilesCreate, NamesAboveSevenBitsAreUtf8OnDisk) {
@@ -363,6 +446,15 @@ TEST_F(PosixFilesCopy, FailsForFolders) {
   EXPECT_FALSE(files_.copy("a.txt", "web", true));
   EXPECT_FALSE(files_.copy("a.txt", "missing\\a.txt", true));
   EXPECT_EQ(hostNames(), (Names{"Web", "a.txt"}));
+}
+
+TEST_F(PosixFilesCopy, FailsForWhatIsNoPlainFile) {
+  putOnHost("a.txt", "text");
+  putPipe("pipe");
+  EXPECT_FALSE(files_.copy("pipe", "b.txt", true));
+  EXPECT_FALSE(files_.copy("Z:\\dev\\zero", "b.txt", true));
+  EXPECT_FALSE(files_.copy("a.txt", "pipe", true));
+  EXPECT_EQ(hostNames(), (Names{"a.txt", "pipe"})) << "nothing is made";
 }
 
 TEST_F(PosixFilesCopy, FailsWhenTheDiskIsFull) {
@@ -628,7 +720,8 @@ TEST_F(PosixFilesNames, ARelativeFolderIsTakenAgainstTheCurrentOne) {
 TEST_F(PosixFilesNames, TheRootHasAnEmptyNameSoThatABackSlashCanFollow) {
   PosixFiles root("/");
   EXPECT_EQ(root.workingFolder(), "");
-  EXPECT_EQ(OpenFile(root, root.openRead("DEV\\NULL")).isOpen(), true);
+  putOnHost("a.txt", "text");
+  EXPECT_TRUE(OpenFile(root, root.openRead(full("A.TXT").substr(1))).isOpen());
 }
 
 TEST_F(PosixFilesNames, NameOfTurnsAHostPath) {
