@@ -23,11 +23,13 @@ constexpr std::size_t kReadSize = 64 * 1024;
 TemplateSource::TemplateSource(ItemValues& values)
     : values_(values), generator_(values.generator()), plan_(generator_.program.project.variables) {}
 
+// Empty, as no file's path is, for a name that leads out of the folder of templates.
 std::string TemplateSource::pathOf(const StoreNode& node) const {
   const StoreProject& project = generator_.program.project;
-  if (generator_.useSetTemplates) return SetTemplatePath(project, node);
-  const Text& name = node.templateName;
-  return ProjectTemplatePath(project, name.isSet() ? name.view() : TraitsOf(node.kind).defaultTemplate);
+  const std::string_view name =
+      node.templateName.isSet() ? node.templateName.view() : TraitsOf(node.kind).defaultTemplate;
+  return (generator_.useSetTemplates ? SetTemplatePath(project, node) : ProjectTemplatePath(project, name))
+      .value_or("");
 }
 
 // Puts the path at the head of the templates used lately, unless it is among them; the last one falls off.
@@ -60,7 +62,7 @@ const PageTemplate* TemplateSource::read(const StoreNode& node) {
   TextSlot& slot = generator_.program.slots[kSlotTemplate];
   std::string_view raw;
   const bool opened = readRaw(path, raw);
-  if (!generator_.useSetTemplates) remember(path);
+  if (!generator_.useSetTemplates && !path.empty()) remember(path);
   const auto same = std::find_if(kept_.begin(), kept_.end(), [&](const Kept& kept) {
     return kept.isShelf == isShelf && kept.path == path && !kept.raw.empty() && kept.raw == raw;
   });

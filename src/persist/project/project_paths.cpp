@@ -7,7 +7,8 @@
 
 namespace varlo {
 
-std::string ProjectTemplatePath(const StoreProject& project, std::string_view fileName) {
+std::optional<std::string> ProjectTemplatePath(const StoreProject& project, std::string_view fileName) {
+  if (!StaysBelow(fileName)) return std::nullopt;
   return std::string(project.projectDir.view()).append("\\template\\").append(fileName);
 }
 

@@ -1,6 +1,7 @@
 // Where the files of a project lie.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -12,8 +13,8 @@ struct StoreProject;
 inline constexpr std::string_view kOrderTemplateName = "order.htm";
 inline constexpr std::string_view kConfirmTemplateName = "confirm.htm";
 
-// Path of a file in the template folder of the project.
-[[nodiscard]] std::string ProjectTemplatePath(const StoreProject& project, std::string_view fileName);
+// Path of a file in the template folder of the project, or below; none for a name that leads out of it.
+[[nodiscard]] std::optional<std::string> ProjectTemplatePath(const StoreProject& project, std::string_view fileName);
 
 // Backups are numbered from 1, the newest, to this.
 inline constexpr int kBackups = 10;
