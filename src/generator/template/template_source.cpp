@@ -18,26 +18,21 @@ namespace {
 constexpr std::size_t kKeptTemplates = 12;
 constexpr std::size_t kReadSize = 64 * 1024;
 
+// The last line of what a file holds, with its line end.
+std::string_view lastLine(std::string_view raw) {
+  const std::size_t before = raw.size() < 2 ? std::string_view::npos : raw.rfind('\n', raw.size() - 2);
+  return raw.substr(before == std::string_view::npos ? 0 : before + 1);
+}
+
 }  // namespace
 
 TemplateSource::TemplateSource(ItemValues& values)
     : values_(values), generator_(values.generator()), plan_(generator_.program.project.variables) {}
 
-// Empty, as no file's path is, for a name that leads out of the folder of templates.
 std::string TemplateSource::pathOf(const StoreNode& node) const {
   const StoreProject& project = generator_.program.project;
-  const std::string_view name =
-      node.templateName.isSet() ? node.templateName.view() : TraitsOf(node.kind).defaultTemplate;
-  return (generator_.useSetTemplates ? SetTemplatePath(project, node) : ProjectTemplatePath(project, name))
-      .value_or("");
-}
-
-// Puts the path at the head of the templates used lately, unless it is among them; the last one falls off.
-void TemplateSource::remember(std::string_view path) {
-  auto& names = generator_.program.project.templateNames;
-  if (std::any_of(names.begin(), names.end(), [path](const Text& name) { return name.view() == path; })) return;
-  std::move_backward(names.begin(), names.end() - 1, names.end());
-  names.front().assign(path);
+  if (generator_.useSetTemplates) return SetTemplatePath(project, node);
+  return NodeTemplatePath(project, node);
 }
 
 // Reads the bytes of a file at once, into the buffer; false when it can't be opened.
@@ -62,12 +57,13 @@ const PageTemplate* TemplateSource::read(const StoreNode& node) {
   TextSlot& slot = generator_.program.slots[kSlotTemplate];
   std::string_view raw;
   const bool opened = readRaw(path, raw);
-  if (!generator_.useSetTemplates && !path.empty()) remember(path);
+  if (!generator_.useSetTemplates) RememberTemplate(generator_.program.project, path);
   const auto same = std::find_if(kept_.begin(), kept_.end(), [&](const Kept& kept) {
     return kept.isShelf == isShelf && kept.path == path && !kept.raw.empty() && kept.raw == raw;
   });
   if (opened && same != kept_.end() && slot.hold(same->text)) {
     kept_.splice(kept_.begin(), kept_, same);
+    generator_.program.lineBuffer.hold(lastLine(raw));  // as reading by lines leaves it
     return &same->page;
   }
   FileReadToSlot(generator_.program, kSlotTemplate, path, true);

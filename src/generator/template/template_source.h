@@ -53,7 +53,6 @@ class TemplateSource {
   };
 
   [[nodiscard]] std::string pathOf(const StoreNode& node) const;
-  void remember(std::string_view path);
   [[nodiscard]] bool readRaw(std::string_view path, std::string_view& raw);
   Kept& keep(std::string_view path, bool isShelf, std::string_view text);
   void prepare(Kept& kept);

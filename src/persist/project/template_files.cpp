@@ -12,13 +12,8 @@
 namespace varlo {
 namespace {
 
-// The forms have names of the program's own, which stay in the folder.
-std::string formPath(const StoreProject& project, std::string_view fileName) {
-  return ProjectTemplatePath(project, fileName).value_or("");
-}
-
 void readTemplate(Program& program, int slot, std::string_view fileName, Text& text) {
-  FileReadToSlot(program, slot, formPath(program.project, fileName), false);
+  FileReadToSlot(program, slot, ProjectTemplatePath(program.project, fileName), false);
   const TextSlot& read = program.slots[static_cast<std::size_t>(slot)];
   if (read.hasMemory()) text.assign(read.text());
 }
@@ -53,7 +48,7 @@ PageSave writeTemplate(Program& program, std::string_view path, std::string_view
 PageSave saveFormTemplate(Program& program, const Text& text, std::string_view fileName) {
   const Text& folder = program.project.projectDir;
   if (text.isNull() || folder.isNull()) return PageSave::Done;
-  const std::string path = formPath(program.project, fileName);
+  const std::string path = ProjectTemplatePath(program.project, fileName);
   return holdsText(program.files, path, text.view()) ? PageSave::Done : TemplateSaveFile(program, path, text.view());
 }
 
@@ -72,10 +67,7 @@ bool FormTemplatesSave(Program& program) {
 }
 
 bool TemplateSave(Program& program, const StoreNode& node, std::string_view text) {
-  const std::string_view name =
-      node.templateName.isSet() ? node.templateName.view() : TraitsOf(node.kind).defaultTemplate;
-  const std::optional<std::string> path = ProjectTemplatePath(program.project, name);
-  const PageSave result = path ? writeTemplate(program, *path, text) : PageSave::NotCreated;
+  const PageSave result = writeTemplate(program, NodeTemplatePath(program.project, node), text);
   if (result == PageSave::NotCreated) ErrorBox(program, message::kTemplateWriteError);
   return result == PageSave::Done;
 }
