@@ -96,6 +96,14 @@ inline constexpr std::string_view kOpenImageLinkTitle = "Open Image Link File";
 inline constexpr std::string_view kImageFilter =
     "Image Files (*.gif, *.jpg)$*.gif;*.jpg;*.jpeg$All Files (*.*)$*.*$$";
 
+// Templates and the search in a text.
+inline constexpr std::string_view kOpenTemplateTitle = "Open Template File";
+inline constexpr std::string_view kTemplateFilter =
+    "Template File (*.htm)$*.htm$Template File (*.html)$*.html$Template File (*.txt)$*.txt$All Files (*.*)$*.*$$";
+inline constexpr std::string_view kResetTemplate =
+    "This will reset the template to an Varlo default. All changes will be lost.  Do you wish to proceed?";
+inline constexpr std::string_view kNotFoundInText = "Cannot find the string: '%s'";
+
 // Projects of older versions.
 inline constexpr std::string_view kUpgradeShelfOrderConfirm =
     "Your project was saved with an older version of Varlo PRO.\r\n\r\nFor compatibility, Varlo needs to "

@@ -23,6 +23,16 @@ TEST(Messages, OfTheMainWindow) {
   EXPECT_EQ(message::kUpgradeErrorTitle, "Upgrade Error");
 }
 
+TEST(Messages, OfTemplatesAndTheSearchInATextAreToTheLetter) {
+  EXPECT_EQ(message::kOpenTemplateTitle, "Open Template File");
+  EXPECT_EQ(message::kTemplateFilter,
+            "Template File (*.htm)$*.htm$Template File (*.html)$*.html$Template File (*.txt)$*.txt$All Files "
+            "(*.*)$*.*$$");
+  EXPECT_EQ(message::kResetTemplate,
+            "This will reset the template to an Varlo default. All changes will be lost.  Do you wish to proceed?");
+  EXPECT_EQ(message::kNotFoundInText, "Cannot find the string: '%s'");
+}
+
 TEST(Messages, TheSaveQuestionHasTwoBlanksBetweenItsSentences) {
   EXPECT_EQ(message::kSavePrompt, "The current project has changed.  Do you wish to save your changes?");
 }
