@@ -6,6 +6,8 @@
 #include <optional>
 #include <string>
 
+#include "core/store/user_variable.h"
+#include "core/text/text.h"
 #include "generator/state/generator.h"
 #include "platform/browser_system.h"
 #include "platform/main_window.h"
@@ -53,6 +55,8 @@ struct Shell {
   std::optional<std::string> descriptionCache;  // text last put into the rich edit of a page
   ControlId focusedField = 0;                   // the field that the Edit dialog mirrors
   ControlId linkedField = 0;
+  Text heldTemplateName;  // file name of the template in hand; null when it could not be read, or was written
+  std::unique_ptr<UserVariable> variableClipboard;
 
   // The tree and the list.
   int listKeyCountdown = 0;  // row changes until one of a key press counts

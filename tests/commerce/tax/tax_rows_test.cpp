@@ -1,6 +1,5 @@
 #include "commerce/tax/tax_rows.h"
 
-#include <numeric>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -27,12 +26,10 @@ class TaxRows : public testing::Test {
     return region;
   }
   std::vector<std::string> sortedBy(int column) {
-    const std::vector<FreightRegion*> rows = StoreRegions(project);
-    std::vector<int> order(rows.size());
-    std::iota(order.begin(), order.end(), 0);
-    SortTaxRows(rows, order, column);
+    std::vector<FreightRegion*> rows = StoreRegions(project);
+    SortTaxRows(rows, column);
     std::vector<std::string> names;
-    for (const int row : order) names.emplace_back(rows[static_cast<std::size_t>(row)]->name.view());
+    for (const FreightRegion* region : rows) names.emplace_back(region->name.view());
     return names;
   }
 };
