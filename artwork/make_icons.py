@@ -18,7 +18,8 @@ STRIPS = {
                 "product+plus", "shelf+plus", "category+plus", "list+plus"],
     "items": ["page", "picture", "variable", "card", "region", "scheme_file", "store", "arrow", "template", "freight",
               "category", "product", "cart", "order_form", "confirmation", "tax", "keyword",
-              "~category", "link", "~product", "shelf", "~shelf", "style_shipped", "list", "~list", "text", "style_other"],
+              "~category", "link", "~product", "shelf", "~shelf", "style_shipped", "list", "~list", "text", "style_other",
+              "tick", "cross", "box", "box+small_tick"],
 }
 # For screens of 100%, 150% and 200%.
 SIZES = {16: "", 24: "_24", 32: "_32"}

@@ -25,6 +25,19 @@ struct CommandArguments {
   bool hasTitle = false;
   bool open = false;  // show the site in the browser
   int number = 0;     // of a backup
+
+  // An import: the file, what its columns carry, how it is written, and where its products go.
+  std::string list;
+  std::string columns;
+  std::string delimiter;
+  std::string quote = "\"";
+  std::string escape = "\"";
+  std::string decimal = ".";
+  std::string below;          // file name of a node
+  bool hasDelimiter = false;  // else the file shows it
+  bool update = false;        // products that are there, instead of new ones
+  int skip = 0;               // rows at the top that are left out
+  int show = -1;              // rows to print instead; -1 for none
 };
 
 // Loads a project and saves it again, with a backup; with an output the result goes to that file, and the project and
@@ -57,6 +70,11 @@ int RunStoreBuild(Machine& machine, const CommandArguments& arguments);
 // Makes the page of the node with the given file name, else of the first one, with the cart around it, and
 // prints the path of the frameset.
 int RunPreview(Machine& machine, const CommandArguments& arguments);
+
+// Makes products of the rows of a delimited text file, below the node with the given file name or else below the
+// root, or updates those with the codes of the rows, and saves, with a backup. kExitErrors when rows were left out.
+// With `show` the first rows are printed as they are read, and nothing is changed.
+int RunImport(Machine& machine, const CommandArguments& arguments);
 
 // Prints the freight expression of a project.
 int RunFreight(Machine& machine, const CommandArguments& arguments);

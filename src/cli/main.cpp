@@ -41,6 +41,28 @@ CLI::App* addProjectCommand(CLI::App& app, const char* name, const char* help, C
   return added;
 }
 
+void addImport(CLI::App& app, Choice& choice) {
+  CommandArguments& arguments = choice.arguments;
+  CLI::App* import =
+      addProjectCommand(app, "import", "make products of a delimited text file, or update them", RunImport, choice);
+  import->add_option("FILE", arguments.list, "the delimited text file")->required();
+  import->add_option("--columns", arguments.columns,
+                     "what the columns carry, by commas: title, code, cost, ...; nothing for one to leave out");
+  import->add_option("--delimiter", arguments.delimiter, "what separates fields (default: as the first rows show)")
+      ->each([&arguments](const std::string&) { arguments.hasDelimiter = true;
+});
+import->add_option("--quote", arguments.quote, "what stands around a quoted field (default: \")");
+import->add_option("--escape", arguments.escape, "what stands in front of a quote inside of quotes (default: \")");
+import->add_option("--decimal", arguments.decimal, "the decimal point of the file (default: .)");
+import->add_option("--skip", arguments.skip, "leave out so many rows at the top")->check(CLI::NonNegativeNumber);
+CLI::Option* below =
+    import->add_option("--below", arguments.below, "file name of the page to import below (default: the first)");
+import->add_flag("--update", arguments.update, "change the products that have the codes of the rows")
+    ->excludes(below);
+import->add_option("--show", arguments.show, "print so many rows as they are read, and change nothing")
+    ->check(CLI::NonNegativeNumber);
+}  // namespace
+
 void addCommands(CLI::App& app, Choice& choice) {
   CommandArguments& arguments = choice.arguments;
   addProjectCommand(app, "resave", "load a project and save it again", RunResave, choice)
@@ -54,6 +76,8 @@ void addCommands(CLI::App& app, Choice& choice) {
   addProjectCommand(app, "import-freight", "take the freight tables of another project", RunImportFreight, choice)
       ->add_option("OTHER.stp", arguments.other, "the project that they are taken from")
       ->required();
+
+  addImport(app, choice);
 
   CLI::App* added =
       addCommand(app, "new", "make a project in the folder Projects of the installation", RunNew, choice);
@@ -97,7 +121,7 @@ int run(int argc, char** argv) {
   return choice.command(machine, choice.arguments);
 }
 
-}  // namespace
+}  // namespace varlo
 }  // namespace varlo
 
 int main(int argc, char** argv) {

@@ -70,6 +70,17 @@ cmp -s first.stp install/Projects/Shop/Backup/Shop.stp.1 || fail 'the merge made
 run 2 --install install merge Projects/Shop/Shop.stp Projects/Gone.stp
 tells "S105: Unable to read project file"
 
+# A template of the other project whose name leads out of its folder, and a name of a project that does.
+mkdir -p a/b/c/Template
+printf 'VERSION=107001\nNODE0=Evil\nTEMP=..\\..\\..\\upgrade.new\n' >a/b/c/evil.stp
+printf evil >a/upgrade.new
+run 0 --install install merge Projects/Other/Other.stp "$work/a/b/c/evil.stp"
+holds install/Projects/Other/Other.stp 'TEMP=..\..\..\upgrade.new'
+[ -e install/upgrade.new ] && fail 'a merge wrote into the installation'
+run 2 --install install new .. --title Other
+tells 'Error: Invalid Project Name.'
+[ -e install/Web ] && fail 'a new project was made in the installation'
+
 # Freight tables.
 printf '$au0,5,1,,,,,,,,,,,7,|1\nRULE=0,free\nFNAME=0,Bike\n' >install/tables.stp
 run 0 --install install import-freight Projects/Shop/Shop.stp tables.stp

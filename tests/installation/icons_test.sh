@@ -26,7 +26,7 @@ strip() {
 }
 for scale in ':16' '_24:24' '_32:32'; do
   strip "toolbar${scale%:*}.bmp" 12 "${scale#*:}"
-  strip "items${scale%:*}.bmp" 27 "${scale#*:}"
+  strip "items${scale%:*}.bmp" 31 "${scale#*:}"
 done
 
 # The program's own icon: reserved, kind 1, five sizes; a width of 0 is 256.

@@ -92,17 +92,19 @@ std::vector<FreightRegion*> StoreRegions(const StoreProject& project) {
 }
 
 // Deliberate: a rule hides the cells of its table, but the rows are sorted by them all the same.
-void SortFreightRows(const StoreProject& project, std::vector<FreightRegion*>& rows, int column) {
-  if (column == kCountryColumn) {
-    MergeSort(rows, [](const auto* left, const auto* right) { return compareNames(*left, *right); });
-  } else if (column == kTaxColumn) {
-    MergeSort(rows, [](const auto* left, const auto* right) { return compareTax(*left, *right); });
-  } else if (isCellColumn(column)) {
-    MergeSort(rows, [&](const auto* left, const auto* right) {
-      return compareCells(cellOf(CurrentTable(project, *left), column),
-                          cellOf(CurrentTable(project, *right), column));
+void SortFreightRows(const StoreProject& project, std::span<FreightRegion* const> rows, std::vector<int>& order,
+                     int column) {
+  const auto sortBy = [&](auto compare) {
+    MergeSort(order, [&](int left, int right) {
+      return compare(*rows[static_cast<std::size_t>(left)], *rows[static_cast<std::size_t>(right)]);
     });
-  }
+  };
+  if (column == kCountryColumn) sortBy(compareNames);
+  if (column == kTaxColumn) sortBy(compareTax);
+  if (!isCellColumn(column)) return;
+  sortBy([&](const FreightRegion& left, const FreightRegion& right) {
+    return compareCells(cellOf(CurrentTable(project, left), column), cellOf(CurrentTable(project, right), column));
+  });
 }
 
 std::int32_t FreightMethodNamed(const StoreProject& project, std::string_view name) {

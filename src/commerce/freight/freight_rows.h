@@ -57,10 +57,12 @@ void ToggleOffered(const StoreProject& project, const FreightRegion& region);
 // The store's regions in their order.
 [[nodiscard]] std::vector<FreightRegion*> StoreRegions(const StoreProject& project);
 
-// Sorts rows by a column; the store's own list keeps its order. Nothing for a column that is none.
+// Sorts the order in which rows are displayed, which holds their numbers, by a column. The store's own list keeps its
+// order. Nothing for a column that is none.
 // Deliberate: cells are compared as numbers with the first in single and the second in double precision, and an
 // equal number is followed by no further key.
-void SortFreightRows(const StoreProject& project, std::vector<FreightRegion*>& rows, int column);
+void SortFreightRows(const StoreProject& project, std::span<FreightRegion* const> rows, std::vector<int>& order,
+                     int column);
 
 // The first method with exactly this name, an absent one counting as empty; 0 when there is none.
 [[nodiscard]] std::int32_t FreightMethodNamed(const StoreProject& project, std::string_view name);

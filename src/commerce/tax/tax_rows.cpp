@@ -29,12 +29,12 @@ void SetTaxable(FreightRegion& region, bool taxable) {
 
 void ToggleTaxable(FreightRegion& region) { SetTaxable(region, !IsTaxed(region)); }
 
-void SortTaxRows(std::vector<FreightRegion*>& rows, int column) {
-  if (column == kTaxRegionColumn) {
-    MergeSort(rows, [](const auto* left, const auto* right) { return compareNames(*left, *right); });
-  } else if (column == kTaxValueColumn) {
-    MergeSort(rows, [](const auto* left, const auto* right) { return compareValues(*left, *right); });
-  }
+void SortTaxRows(std::span<FreightRegion* const> rows, std::vector<int>& order, int column) {
+  if (column != kTaxRegionColumn && column != kTaxValueColumn) return;
+  const auto compare = column == kTaxRegionColumn ? compareNames : compareValues;
+  MergeSort(order, [&](int left, int right) {
+    return compare(*rows[static_cast<std::size_t>(left)], *rows[static_cast<std::size_t>(right)]);
+  });
 }
 
 }  // namespace varlo

@@ -1,6 +1,7 @@
 // Regions in the lists of the tax pages: what a row shows, how it is changed, and in which order rows stand.
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "core/store/freight_record.h"
@@ -21,8 +22,8 @@ void SetTaxable(FreightRegion& region, bool taxable);
 // double click there writes "*" where a rate belongs, until the edit field is stored over it.
 void ToggleTaxable(FreightRegion& region);
 
-// Sorts rows by the name's bytes, or by the value as a whole number, the greater first, and then by the name.
-// Nothing for another column.
-void SortTaxRows(std::vector<FreightRegion*>& rows, int column);
+// Sorts the order in which rows are displayed, which holds their numbers: by the bytes of the names, or by the values
+// as whole numbers, the greater first, and then by the names. Nothing for another column.
+void SortTaxRows(std::span<FreightRegion* const> rows, std::vector<int>& order, int column);
 
 }  // namespace varlo

@@ -2,6 +2,7 @@
 // command-line use and the engine's own tests.
 #pragma once
 
+#include <span>
 #include <string_view>
 
 namespace varlo {
@@ -24,6 +25,8 @@ struct View {
   virtual void fillTree() {}
   // Inserts the item of a new node. `behind` is its prev, which need not be the node before it.
   virtual void insertTreeItem(StoreNode& /*node*/, StoreNode* /*behind*/) {}
+  // Inserts the items of new nodes that were made one after the other at the same place.
+  virtual void insertTreeItems(std::span<StoreNode* const> nodes);
   // Inserts the item of `node`, with its branch, anew at the place where the node is linked now.
   virtual void moveTreeItem(StoreNode& /*node*/) {}
   virtual void removeTreeItem(StoreNode& /*node*/) {}

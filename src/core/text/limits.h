@@ -35,6 +35,10 @@ inline constexpr std::size_t kTemplateNames = 20;
 // A shelf block of this size or more is not taken: the text that was composed last stands in for it.
 inline constexpr std::size_t kShelfBlock = 20000;
 
+// A delimited text file is read in blocks of this size. The end of each is taken at the size that was read, also
+// where the unfinished line of the block before stands in front of it.
+inline constexpr std::size_t kImportBlock = kLineBuffer - 1;
+
 // Whole-file texts, and how their memory grows.
 inline constexpr std::size_t kTextSlots = 20;
 inline constexpr std::size_t kSlotStart = 5000;

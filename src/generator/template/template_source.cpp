@@ -29,10 +29,10 @@ std::string_view lastLine(std::string_view raw) {
 TemplateSource::TemplateSource(ItemValues& values)
     : values_(values), generator_(values.generator()), plan_(generator_.program.project.variables) {}
 
+// Empty, as no file's path is, for a name that leads out of the folder of templates.
 std::string TemplateSource::pathOf(const StoreNode& node) const {
   const StoreProject& project = generator_.program.project;
-  if (generator_.useSetTemplates) return SetTemplatePath(project, node);
-  return NodeTemplatePath(project, node);
+  return (generator_.useSetTemplates ? SetTemplatePath(project, node) : NodeTemplatePath(project, node)).value_or("");
 }
 
 // Reads the bytes of a file at once, into the buffer; false when it can't be opened.

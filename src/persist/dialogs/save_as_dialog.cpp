@@ -7,6 +7,7 @@
 #include "core/program/program.h"
 #include "core/text/paths.h"
 #include "core/text/text_edit.h"
+#include "core/text/text_search.h"
 #include "persist/life/project_life.h"
 #include "persist/project/project_paths.h"
 #include "platform/control_ids.h"
@@ -71,7 +72,7 @@ void SaveAsDialog::browse(Dialog& dialog) {
 bool SaveAsDialog::saveAs(const std::string& name) {
   StoreProject& project = program_.project;
   const std::string folder = ProjectsFolder(program_) + "\\" + name;
-  if (!makeProjectFolder(folder)) return false;
+  if (!makeProjectFolder(name, folder)) return false;
   for (const char* below : {"\\Web", "\\Template"}) program_.files.makeFolder(folder + below);
   const std::string oldFile(project.projectFile.view());
   project.projectFile.assign(std::string_view(folder + "\\" + name + kExtension));
@@ -87,8 +88,9 @@ bool SaveAsDialog::saveAs(const std::string& name) {
 }
 
 // False when there is no folder to use, or the user does not want the one that is there.
-bool SaveAsDialog::makeProjectFolder(const std::string& folder) {
-  switch (program_.files.makeFolder(folder)) {
+// A name that leads out of the folder of projects is one whose folder can't be made.
+bool SaveAsDialog::makeProjectFolder(const std::string& name, const std::string& folder) {
+  switch (IsProjectFolder(name) ? program_.files.makeFolder(folder) : MakeFolderResult::Failed) {
     case MakeFolderResult::Made:
       return true;
     case MakeFolderResult::Failed:
@@ -110,7 +112,7 @@ void SaveAsDialog::copyCompanions(const std::string& oldFile, const std::string&
   std::string target = folder;
   const std::string oldFolder = oldFile.substr(0, oldFile.size() - PathName(oldFile).size());
   for (const FoundFile& found : program_.files.search(withExtension(oldFile, ".*"))) {
-    if (found.name.starts_with('.') || found.name == PathName(oldFile)) continue;
+    if (found.name.starts_with('.') || EqualsNoCase(found.name, PathName(oldFile))) continue;
     target.append("\\").append(name).append(extensionOf(found.name));
     program_.files.copy(oldFolder + found.name, target, true);
   }

@@ -21,7 +21,7 @@ class SaveAsDialog : public DialogLogic {
  private:
   void browse(Dialog& dialog);
   bool saveAs(const std::string& name);
-  bool makeProjectFolder(const std::string& folder);
+  bool makeProjectFolder(const std::string& name, const std::string& folder);
   void copyCompanions(const std::string& oldFile, const std::string& folder, const std::string& name);
 
   Program& program_;

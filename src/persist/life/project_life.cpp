@@ -4,6 +4,7 @@
 #include "core/program/program.h"
 #include "core/program/start_up.h"
 #include "core/text/open_file.h"
+#include "core/text/paths.h"
 #include "core/tree/node_commands.h"
 #include "persist/installation/config_file.h"
 #include "persist/life/backup.h"
@@ -46,7 +47,7 @@ void copyFormTemplate(Program& program, std::string_view shipped, std::string_vi
 
 int ProjectCreate(Program& program, const char* name) {
   if (name == nullptr) return 0;
-  if (std::string_view(name).find_first_of("/\\,") != std::string_view::npos) {
+  if (std::string_view(name).find_first_of("/\\,") != std::string_view::npos || !IsProjectFolder(name)) {
     program.screen.messageBox({.text = message::kInvalidProjectName, .title = "Error", .icon = Icon::Stop});
     return -1;
   }
@@ -137,6 +138,9 @@ bool ProjectRestore(Program& program, const std::string& backup) {
 }
 
 std::string ProjectsFolder(Program& program) { return program.files.workingFolder() + "\\Projects"; }
+
+// A level up must not lead out either.
+bool IsProjectFolder(std::string_view name) { return StaysBelow(std::string(name).append("\\..")); }
 
 int DirectoryCreatePath(Program& program, std::string_view path) {
   int result = 1;

@@ -12,7 +12,7 @@ struct Program;
 
 // Makes the project "Projects\N" of the installation, with its folders, a root and the shipped
 // templates. 1 made; 0 for a null name, or when a project of that name was there, which is opened
-// instead; -1 with a message for a name with a slash or a comma.
+// instead; -1 with a message for a name with a slash or a comma, or that is no folder of its own.
 int ProjectCreate(Program& program, const char* name);
 
 // Empties the tree and gives it a root with the store's title.
@@ -45,6 +45,9 @@ bool ProjectRestore(Program& program, const std::string& backup);
 
 // The folder below which projects are made.
 [[nodiscard]] std::string ProjectsFolder(Program& program);
+
+// Whether `name` names a folder below that of the projects, and not the folder itself or what lies outside of it.
+[[nodiscard]] bool IsProjectFolder(std::string_view name);
 
 // Makes every level of a path. 1, or 0 when a level could neither be made nor was there; the others are
 // made all the same.

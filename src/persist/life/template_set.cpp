@@ -7,9 +7,27 @@
 
 namespace varlo {
 
+namespace {
+
+// The pattern's "$" signs replaced by the directory of the set.
+std::string filledPattern(std::string_view pattern, std::string_view directory) {
+  std::string path;
+  for (const char c : pattern) {
+    if (c == '$') {
+      path.append(directory);
+    } else {
+      path += c;
+    }
+  }
+  return path;
+}
+
+}  // namespace
+
 int CopyTemplateSet(Program& program, const Scheme* scheme) {
   const Text& projectDir = program.project.projectDir;
   if (projectDir.isNull() || scheme == nullptr) return 0;
+  if (!StaysBelow(scheme->directory.view())) return 1;
   std::string source = "template\\";
   if (scheme->directory.isSet()) source.append(scheme->directory.view()).append("\\");
   const std::string target = std::string(projectDir.view()).append("\\Template\\");
@@ -35,21 +53,13 @@ int EnsureProjectScheme(Program& program) {
   return 0;
 }
 
-std::string SetTemplatePath(const StoreProject& project, const StoreNode& node) {
+std::optional<std::string> SetTemplatePath(const StoreProject& project, const StoreNode& node) {
   const NodeKind kind = node.kind == NodeKind::List ? NodeKind::List : NodeKind::Product;
   const std::string_view name = node.templateName.isSet() ? node.templateName.view() : TraitsOf(kind).defaultTemplate;
-  const std::string pattern = std::string("template\\$\\").append(name);
   const Scheme* scheme = project.projectScheme;
   const std::string_view directory = scheme == nullptr ? std::string_view() : scheme->directory.view();
-  std::string path;
-  for (const char c : pattern) {
-    if (c == '$') {
-      path.append(directory);
-    } else {
-      path += c;
-    }
-  }
-  return SingleBackSlashes(path);
+  if (!StaysBelow(directory) || !StaysBelow(filledPattern(name, directory))) return std::nullopt;
+  return SingleBackSlashes(filledPattern(std::string("template\\$\\").append(name), directory));
 }
 
 }  // namespace varlo

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -18,7 +19,8 @@ inline constexpr std::array<std::string_view, 6> kTemplateSetFiles{"category.htm
                                                                    "list.htm",     "order.htm",   "confirm.htm"};
 
 // Copies the set of `scheme` over the project's templates. A file that can't be copied leaves the old one
-// in place. 1; 0 and nothing is copied without a project directory or a scheme.
+// in place, and so does a set whose directory leads out of the installation's templates. 1; 0 and nothing is
+// copied without a project directory or a scheme.
 int CopyTemplateSet(Program& program, const Scheme* scheme);
 
 // Gives every node from `head` on, and below, the template of its kind; special templates are dropped.
@@ -29,7 +31,8 @@ void AssignDefaultTemplates(StoreNode* head);
 int EnsureProjectScheme(Program& program);
 
 // The path of a node's template inside the set of the project's scheme, for previews. Deliberate: without
-// a template of its own a category or a shelf uses that of products; only a list has one of its kind.
-[[nodiscard]] std::string SetTemplatePath(const StoreProject& project, const StoreNode& node);
+// a template of its own a category or a shelf uses that of products; only a list has one of its kind. None
+// where a name leads out of the set.
+[[nodiscard]] std::optional<std::string> SetTemplatePath(const StoreProject& project, const StoreNode& node);
 
 }  // namespace varlo

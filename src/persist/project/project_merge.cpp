@@ -44,12 +44,15 @@ StoreNode* readWhole(Program& program, LineReader& reader) {
   return project.root;
 }
 
+// A name that leads out of the template folder is one that can't be copied.
 void copyTemplate(Program& program, const StoreNode& node, std::string_view sourceFolder, FileNameSet& names) {
   if (!node.templateName.isSet() || FileNameSetFind(names, node.templateName.get()) != 0) return;
-  const std::string name = std::string("\\Template\\").append(node.templateName.view());
-  const std::string target = SingleBackSlashes(std::string(program.project.projectDir.view()) + name);
-  const std::string source = SingleBackSlashes(std::string(sourceFolder) + name);
-  if (FileExists(program.files, target) == 0) program.files.copy(source, target, true);
+  if (StaysBelow(node.templateName.view())) {
+    const std::string name = std::string("\\Template\\").append(node.templateName.view());
+    const std::string target = SingleBackSlashes(std::string(program.project.projectDir.view()) + name);
+    const std::string source = SingleBackSlashes(std::string(sourceFolder) + name);
+    if (FileExists(program.files, target) == 0) program.files.copy(source, target, true);
+  }
   FileNameSetAdd(names, node.templateName.get(), reinterpret_cast<std::uintptr_t>(&node));
 }
 

@@ -17,7 +17,8 @@ struct StoreNode;
 int ProjectMerge(Program& program, const char* path);
 
 // Copies the templates that the nodes from `head` on, and below, name from the project at `sourcePath`
-// into the open one; those that are there stay. Each is copied once. Gives 1.
+// into the open one; those that are there stay, and so does what a name leads to out of the template
+// folder. Each is copied once. Gives 1.
 int MergeCopyTemplates(Program& program, StoreNode* head, std::string_view sourcePath);
 
 // Replaces the freight data by that of the project at `path`: all methods are emptied, then its freight

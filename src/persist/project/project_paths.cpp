@@ -10,7 +10,8 @@
 
 namespace varlo {
 
-std::string ProjectTemplatePath(const StoreProject& project, std::string_view fileName) {
+std::optional<std::string> ProjectTemplatePath(const StoreProject& project, std::string_view fileName) {
+  if (!StaysBelow(fileName)) return std::nullopt;
   return std::string(project.projectDir.view()).append("\\template\\").append(fileName);
 }
 
@@ -23,13 +24,14 @@ std::string BackupPath(const StoreProject& project, int number) {
   return path.append("\\").append(PathName(project.projectFile.view())).append(".").append(IntToText(number));
 }
 
-std::string NodeTemplatePath(const StoreProject& project, const StoreNode& node) {
+std::optional<std::string> NodeTemplatePath(const StoreProject& project, const StoreNode& node) {
   const Text& name = node.templateName;
   return ProjectTemplatePath(project, name.isSet() ? name.view() : TraitsOf(node.kind).defaultTemplate);
 }
 
 void RememberTemplate(StoreProject& project, std::string_view path) {
   auto& names = project.templateNames;
+  if (path.empty()) return;
   if (std::any_of(names.begin(), names.end(), [path](const Text& name) { return name.view() == path; })) return;
   std::move_backward(names.begin(), names.end() - 1, names.end());
   names.front().assign(path);

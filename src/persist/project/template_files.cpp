@@ -12,8 +12,13 @@
 namespace varlo {
 namespace {
 
+// The forms have names of the program's own, which stay in the folder.
+std::string formPath(const StoreProject& project, std::string_view fileName) {
+  return ProjectTemplatePath(project, fileName).value_or("");
+}
+
 void readTemplate(Program& program, int slot, std::string_view fileName, Text& text) {
-  FileReadToSlot(program, slot, ProjectTemplatePath(program.project, fileName), false);
+  FileReadToSlot(program, slot, formPath(program.project, fileName), false);
   const TextSlot& read = program.slots[static_cast<std::size_t>(slot)];
   if (read.hasMemory()) text.assign(read.text());
 }
@@ -48,7 +53,7 @@ PageSave writeTemplate(Program& program, std::string_view path, std::string_view
 PageSave saveFormTemplate(Program& program, const Text& text, std::string_view fileName) {
   const Text& folder = program.project.projectDir;
   if (text.isNull() || folder.isNull()) return PageSave::Done;
-  const std::string path = ProjectTemplatePath(program.project, fileName);
+  const std::string path = formPath(program.project, fileName);
   return holdsText(program.files, path, text.view()) ? PageSave::Done : TemplateSaveFile(program, path, text.view());
 }
 
@@ -67,7 +72,8 @@ bool FormTemplatesSave(Program& program) {
 }
 
 bool TemplateSave(Program& program, const StoreNode& node, std::string_view text) {
-  const PageSave result = writeTemplate(program, NodeTemplatePath(program.project, node), text);
+  const std::optional<std::string> path = NodeTemplatePath(program.project, node);
+  const PageSave result = path ? writeTemplate(program, *path, text) : PageSave::NotCreated;
   if (result == PageSave::NotCreated) ErrorBox(program, message::kTemplateWriteError);
   return result == PageSave::Done;
 }

@@ -16,7 +16,8 @@ void ProjectReadTemplates(Program& program);
 // was told; one that can't be created is told, and counts as written.
 [[nodiscard]] bool FormTemplatesSave(Program& program);
 
-// Writes `text` as the template file of `node`, in the project's template folder; false with a message.
+// Writes `text` as the template file of `node`, in the project's template folder; false with a message, which a name
+// that leads out of the folder gets as well.
 [[nodiscard]] bool TemplateSave(Program& program, const StoreNode& node, std::string_view text);
 
 // How the writing of a page file ended: what is not done was told.

@@ -29,7 +29,7 @@ std::string shippedTemplate(const Program& program, const StoreNode& node) {
 
 void loadTemplate(Shell& shell, const StoreNode& node) {
   StoreProject& project = shell.program.project;
-  const std::string path = NodeTemplatePath(project, node);
+  const std::string path = NodeTemplatePath(project, node).value_or("");
   shell.heldTemplateName.release();
   if (FileReadToSlot(shell.program, kSlotTemplate, path, false) == 1) {
     shell.heldTemplateName.assign(PathName(path));
@@ -71,7 +71,8 @@ void resetTemplate(Shell& shell) {
 
 void viewTemplate(Shell& shell) {
   if (!shell.heldTemplateName.isSet()) return;
-  openInBrowser(shell, ProjectTemplatePath(shell.program.project, shell.heldTemplateName.view()));
+  const auto path = ProjectTemplatePath(shell.program.project, shell.heldTemplateName.view());
+  if (path) openInBrowser(shell, *path);
 }
 
 }  // namespace varlo

@@ -1,5 +1,6 @@
 #include "commerce/freight/freight_rows.h"
 
+#include <numeric>
 #include <random>
 #include <string>
 
@@ -27,10 +28,12 @@ class FreightRows : public testing::Test {
     return region;
   }
   std::vector<std::string> sortedBy(int column) {
-    std::vector<FreightRegion*> rows = StoreRegions(project);
-    SortFreightRows(project, rows, column);
+    const std::vector<FreightRegion*> rows = StoreRegions(project);
+    std::vector<int> order(rows.size());
+    std::iota(order.begin(), order.end(), 0);
+    SortFreightRows(project, rows, order, column);
     std::vector<std::string> names;
-    for (const FreightRegion* region : rows) names.emplace_back(region->name.view());
+    for (const int row : order) names.emplace_back(rows[static_cast<std::size_t>(row)]->name.view());
     return names;
   }
   std::string row(const FreightRegion* region) {

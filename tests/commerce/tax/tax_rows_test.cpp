@@ -1,5 +1,6 @@
 #include "commerce/tax/tax_rows.h"
 
+#include <numeric>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -26,10 +27,12 @@ class TaxRows : public testing::Test {
     return region;
   }
   std::vector<std::string> sortedBy(int column) {
-    std::vector<FreightRegion*> rows = StoreRegions(project);
-    SortTaxRows(rows, column);
+    const std::vector<FreightRegion*> rows = StoreRegions(project);
+    std::vector<int> order(rows.size());
+    std::iota(order.begin(), order.end(), 0);
+    SortTaxRows(rows, order, column);
     std::vector<std::string> names;
-    for (const FreightRegion* region : rows) names.emplace_back(region->name.view());
+    for (const int row : order) names.emplace_back(rows[static_cast<std::size_t>(row)]->name.view());
     return names;
   }
 };

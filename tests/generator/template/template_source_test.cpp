@@ -86,6 +86,21 @@ TEST_F(TemplateSourceTest, AMissingTemplateLeavesTheOneOfThePageBefore) {
   EXPECT_EQ(read(*t.ball), "former");
 }
 
+TEST_F(TemplateSourceTest, ATemplateThatLeadsOutOfItsFolderIsOneThatIsMissing) {
+  t.files.put(kShop + "own.htm", "own");
+  t.files.put(kShop + "..\\secret.htm", "secret");
+  t.files.put("C:\\secret.htm", "secret");
+  EXPECT_EQ(of(NodeKind::Product, "own.htm"), "own");
+  for (const char* name : {"..\\secret.htm", "../secret.htm", "C:\\secret.htm", "a\\..\\..\\secret.htm"}) {
+    EXPECT_EQ(of(NodeKind::Product, name), "own") << name;
+    EXPECT_EQ(this->name(0), kShop + "own.htm") << "it is not remembered";
+  }
+  t.generator.useSetTemplates = true;
+  t.scheme().directory.assign("..");
+  t.files.put(kSet + "..\\product.htm", "secret");
+  EXPECT_EQ(of(NodeKind::Product), "own");
+}
+
 TEST_F(TemplateSourceTest, TheTextStandsInTheSlotOfTheTemplateTab) {
   t.files.put(kShop + "product.htm", ";a\nshown");
   for (int i = 0; i < 2; ++i) {

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "core/program/messages.h"
+#include "core/program/scheme.h"
 #include "platform/control_ids.h"
 #include "tests/support/fake_window.h"
 #include "tests/support/project_text.h"
@@ -12,6 +12,7 @@ namespace varlo {
 namespace {
 
 using namespace test;
+using testing::ElementsAre;
 using namespace control::save_as;
 
 class SaveAsDialogTest : public testing::Test {
@@ -117,11 +118,49 @@ TEST_F(SaveAsDialogTest, AFolderThatCannotBeMadeIsToldWithItsPath) {
   EXPECT_EQ(projectFile(), kProjectPath);
 }
 
-TEST_F(SaveAsDialogTest, InANormalProjectNothingIsCopiedBesideTheForms) {
-  saveAs("New");
-  for (const std::string& operation : t.files.log) {
-    EXPECT_TRUE(!operation.starts_with("copy") || operation.find("template") != std::string::npos) << operation;
+TEST_F(SaveAsDialogTest, ANameThatLeadsOutOfTheProjectsIsAFolderThatCannotBeMade) {
+  for (const char* name :
+       {"..\\Esc", "../Esc", "a\\..\\..\\Esc", "C:\\Esc", "\\Esc", "..", ".", "Old\\..", "...\\Esc"}) {
+    t.files.log.clear();
+    t.screen.boxes.clear();
+    t.screen.answers = {Answer::Yes};
+    saveAs(name);
+    ASSERT_EQ(t.screen.boxes.size(), 1U) << name;
+    EXPECT_EQ(t.screen.boxes[0].text,
+              std::string("Unable to create a new Project Directory 'C:\\Varlo\\Projects\\") + name + "'.");
+    EXPECT_TRUE(window.isOpen()) << name;
+    EXPECT_EQ(projectFile(), kProjectPath);
+    EXPECT_TRUE(t.files.log.empty()) << name;
+    t.screen.answers.clear();
   }
+}
+
+TEST_F(SaveAsDialogTest, InANormalProjectNothingIsCopiedBesideTheForms) {
+  SchemeStyle* style = t.config().schemeStyles = SchemeInit(nullptr);
+  t.config().currentScheme = style->schemes = SchemeInit(nullptr);
+  style->schemes->prev = style;
+  style->schemes->directory.assign("Blue");
+  t.files.put("Projects\\Shop\\Template\\own.htm", "own");
+  t.files.put("Projects\\Shop\\Web\\Shop.htm", "page");
+  saveAs("New");
+  std::vector<std::string> copies;
+  for (const std::string& operation : t.files.log) {
+    if (operation.starts_with("copy")) copies.push_back(operation.substr(0, operation.find(" to ")));
+  }
+  EXPECT_THAT(
+      copies,
+      ElementsAre("copy C:\\Varlo\\template\\order.dat", "copy C:\\Varlo\\template\\confirm.dat",
+                  "copy C:\\Varlo\\template\\Blue\\category.htm", "copy C:\\Varlo\\template\\Blue\\product.htm",
+                  "copy C:\\Varlo\\template\\Blue\\shelf.htm", "copy C:\\Varlo\\template\\Blue\\list.htm",
+                  "copy C:\\Varlo\\template\\Blue\\order.htm", "copy C:\\Varlo\\template\\Blue\\confirm.htm"));
+}
+
+TEST_F(SaveAsDialogTest, TheOldProjectFileIsNoCompanionHoweverItsNameIsSpelt) {
+  t.project().projectFile.assign("C:\\Varlo\\Projects\\Shop\\SHOP.stp");
+  t.files.log.clear();
+  saveAs("New");
+  EXPECT_FALSE(t.files.content("Projects\\New\\New.stp").has_value());
+  EXPECT_EQ(t.files.content("Projects\\New\\Template\\order.htm"), "shipped order");
 }
 
 TEST_F(SaveAsDialogTest, OnlyTheFirstCompanionLandsWhereItShould) {

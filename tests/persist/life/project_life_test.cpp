@@ -85,6 +85,15 @@ class ProjectLifeTest : public testing::Test {
 
 using ProjectCreateTest = ProjectLifeTest;
 
+TEST_F(ProjectCreateTest, ANameThatIsNoFolderOfItsOwnIsRefused) {
+  for (const char* name : {"..", ".", "", "C:", "C:Shop", "..."}) {
+    t.screen.boxes.clear();
+    EXPECT_EQ(ProjectCreate(t.program, name), -1) << name;
+    EXPECT_THAT(t.screen.boxes, ElementsAre(kBadName)) << name;
+    EXPECT_THAT(t.files.log, IsEmpty()) << name;
+  }
+}
+
 TEST_F(ProjectCreateTest, ANullNameGivesZeroAndChangesNothing) {
   openShop();
   project.webDir.assign("web");

@@ -141,6 +141,19 @@ TEST_F(TemplateSetTest, WithoutAProjectDirectoryNothingIsCopied) {
   EXPECT_TRUE(t.files.log.empty());
 }
 
+TEST_F(TemplateSetTest, ASetOutsideOfTheTemplatesIsNotCopied) {
+  for (const char* directory : {"..", "..\\Projects\\Other", "C:\\Other", "\\Other"}) {
+    SchemeRecord scheme;
+    scheme.directory.assign(directory);
+    project.projectDir.assign("C:\\Varlo\\Projects\\Shop");
+    t.files.putFolder("C:\\Varlo\\Projects\\Shop\\Template");
+    t.files.put(std::string("template\\") + directory + "\\order.htm", "foreign");
+    t.files.log.clear();
+    EXPECT_EQ(CopyTemplateSet(t.program, &scheme), 1);
+    EXPECT_TRUE(t.files.log.empty()) << directory;
+  }
+}
+
 TEST_F(TemplateSetTest, WithoutASchemeNothingIsCopied) {
   openShop();
   shipWholeSet("template\\");
@@ -255,7 +268,7 @@ class SetTemplatePathTest : public testing::Test {
   std::string path(NodeKind kind, const char* templateName = nullptr) {
     node.kind = kind;
     node.templateName.assign(templateName);
-    return SetTemplatePath(project, node);
+    return SetTemplatePath(project, node).value_or("(none)");
   }
   void useDirectory(const char* directory) {
     scheme.directory.assign(directory);
@@ -304,7 +317,7 @@ TEST_F(SetTemplatePathTest, ADollarSignInTheDirectoryEndsTheReplacing) {
 
 TEST_F(SetTemplatePathTest, DoubledBackSlashesBecomeOne) {
   useDirectory("Blue\\\\Dark\\");
-  EXPECT_EQ(path(NodeKind::Product, "\\a.htm"), "template\\Blue\\Dark\\a.htm");
+  EXPECT_EQ(path(NodeKind::Product, "more\\\\a.htm"), "template\\Blue\\Dark\\more\\a.htm");
 }
 
 TEST_F(SetTemplatePathTest, ATemplateThatOnlyTheProjectHasIsNotFoundInTheSet) {
@@ -312,9 +325,33 @@ TEST_F(SetTemplatePathTest, ATemplateThatOnlyTheProjectHasIsNotFoundInTheSet) {
   t.files.put("Projects\\Shop\\Template\\special.htm", "own");
   t.files.put("template\\Blue\\product.htm", "of the set");
   useDirectory("Blue");
-  EXPECT_EQ(FileExists(t.files, ProjectTemplatePath(project, "special.htm")), 1);
+  EXPECT_EQ(FileExists(t.files, ProjectTemplatePath(project, "special.htm").value_or("")), 1);
   EXPECT_EQ(FileExists(t.files, path(NodeKind::Product, "special.htm")), 0);
   EXPECT_EQ(FileExists(t.files, path(NodeKind::Product)), 1);
+}
+
+TEST_F(SetTemplatePathTest, ANameThatLeadsOutOfTheSetHasNoPath) {
+  useDirectory("Blue");
+  for (const char* name : {"..\\Red\\a.htm", "../a.htm", "a\\..\\..\\b.htm", "\\a.htm", "C:\\a.htm"}) {
+    EXPECT_EQ(path(NodeKind::Product, name), "(none)") << name;
+  }
+}
+
+TEST_F(SetTemplatePathTest, ADirectoryThatLeadsOutOfTheTemplatesHasNoPath) {
+  for (const char* directory : {"..", "..\\Projects\\Shop", "Blue\\..\\..", "C:\\Blue", "\\Blue"}) {
+    useDirectory(directory);
+    EXPECT_EQ(path(NodeKind::Product, "a.htm"), "(none)") << directory;
+  }
+}
+
+TEST_F(SetTemplatePathTest, ADollarSignInTheNameCanNotBringAWayOut) {
+  useDirectory("Blue\\Dark");
+  EXPECT_EQ(path(NodeKind::Product, "$\\..\\..\\a.htm"), "template\\Blue\\Dark\\Blue\\Dark\\..\\..\\a.htm");
+  EXPECT_EQ(path(NodeKind::Product, "$\\..\\..\\..\\a.htm"), "(none)");
+  useDirectory("Blue\\..");
+  EXPECT_EQ(path(NodeKind::Product, "a.htm"), "template\\Blue\\..\\a.htm");
+  useDirectory(".");
+  EXPECT_EQ(path(NodeKind::Product, ".$\\a.htm"), "(none)");
 }
 
 }  // namespace

@@ -504,6 +504,18 @@ TEST_F(ProjectMergeTest, MergeCopyTemplatesGivesOneWithoutNodesToo) {
   EXPECT_THAT(t.files.log, IsEmpty());
 }
 
+TEST_F(ProjectMergeTest, ATemplateNameThatLeadsOutOfItsFolderCopiesNothing) {
+  for (const char* name : {"..\\..\\..\\upgrade.new", "../../../upgrade.new", "more\\..\\..\\Shop.stp",
+                           "C:\\upgrade.new", "\\upgrade.new", "/upgrade.new", "C:upgrade.new", "...\\upgrade.new"}) {
+    t.files.put(inOther(name), "foreign");
+    t.files.putFolder(inShop("..\\..\\.."));
+    t.files.log.clear();
+    EXPECT_EQ(t.merge("Toys", std::string("NODE0=") + name + "\nTEMP=" + name + "\n"), 1);
+    EXPECT_THAT(t.files.log, IsEmpty()) << name;
+    EXPECT_STREQ(find(project, name)->templateName.get(), name) << "the node keeps it";
+  }
+}
+
 // A disk that keeps the paths of copies as they are asked for.
 class RawPaths : public FilesWrapper {
  public:

@@ -40,5 +40,20 @@ TEST(ProjectDirFromFile, WithoutABackSlashIsTheWholeName) {
   EXPECT_EQ(t.project().projectDir.view(), "a.stp");
 }
 
+TEST(ProjectTemplatePath, NamesAFileInTheFolderOrBelow) {
+  test::TestProgram t;
+  t.project().projectDir.assign("C:\\Varlo\\Projects\\Shop");
+  EXPECT_EQ(ProjectTemplatePath(t.project(), "own.htm"), "C:\\Varlo\\Projects\\Shop\\template\\own.htm");
+  EXPECT_EQ(ProjectTemplatePath(t.project(), "a\\own.htm"), "C:\\Varlo\\Projects\\Shop\\template\\a\\own.htm");
+}
+
+TEST(ProjectTemplatePath, ANameThatLeadsOutHasNone) {
+  test::TestProgram t;
+  t.project().projectDir.assign("C:\\Varlo\\Projects\\Shop");
+  for (const char* name : {"..\\Shop.stp", "a/../../b.htm", "D:\\own.htm", "\\own.htm"}) {
+    EXPECT_FALSE(ProjectTemplatePath(t.project(), name).has_value()) << name;
+  }
+}
+
 }  // namespace
 }  // namespace varlo

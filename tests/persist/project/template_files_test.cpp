@@ -131,5 +131,18 @@ TEST_F(TemplateFilesTest, AFormThatLosesItsEndIsToldAndLeavesTheProjectDirty) {
   EXPECT_EQ(project.dirty, 1);
 }
 
+TEST_F(TemplateFilesTest, ATemplateThatLeadsOutOfItsFolderFailsAsOneThatCanNotBeWritten) {
+  openWithForms();
+  StoreNode* node = AddProduct(project, "p");
+  for (const char* name : {"..\\Shop.stp", "..\\..\\..\\config.ini", "C:\\a.htm", "/a.htm"}) {
+    node->templateName.assign(name);
+    t.screen.boxes.clear();
+    EXPECT_FALSE(TemplateSave(t.program, *node, "a")) << name;
+    ASSERT_EQ(t.screen.boxes.size(), 1U);
+    EXPECT_EQ(t.screen.boxes[0].text, "ERROR S104: Saving template file");
+    EXPECT_TRUE(t.files.log.empty()) << name;
+  }
+}
+
 }  // namespace
 }  // namespace varlo

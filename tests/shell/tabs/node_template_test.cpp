@@ -58,6 +58,19 @@ TEST_F(NodeTemplateTest, AMissingTemplateIsEmptyInAFreshProgram) {
   EXPECT_EQ(templateText(shell), "");
 }
 
+TEST_F(NodeTemplateTest, ANameThatLeadsOutOfTheFolderIsNeitherReadNorWritten) {
+  files.put("C:\\Varlo\\Projects\\Shop\\outside.htm", "outside");
+  ball->templateName.assign("..\\outside.htm");
+  loadTemplate(shell, *ball);
+  EXPECT_EQ(templateText(shell), "");
+  EXPECT_EQ(held(), "(none)");
+  EXPECT_TRUE(project().templateNames[0].isNull());
+  storeTemplate(shell, *ball, "x");
+  EXPECT_EQ(files.content("C:\\Varlo\\Projects\\Shop\\outside.htm"), "outside");
+  ASSERT_EQ(screen.boxes.size(), 1U);
+  EXPECT_EQ(screen.boxes[0].text, "ERROR S104: Saving template file");
+}
+
 TEST_F(NodeTemplateTest, LoadingPutsThePathAtTheHeadOfTheTemplatesUsedLately) {
   loadTemplate(shell, *ball);
   loadTemplate(shell, *home);
