@@ -67,9 +67,18 @@ StoreNode* linkProduct(StoreNode& product, StoreNode& current, StoreNode& treeNo
   return &current;
 }
 
+// The siblings that the next product drops out of the store.
+StoreNode* siblingsToDrop(const StoreProject& project) {
+  const StoreNode* current = project.currentNode;
+  const bool drops = current != nullptr && IsProduct(*current) && current->child == nullptr;
+  return drops ? current->next : nullptr;
+}
+
 // The products that were just made, one for each row, told to the view at once: their parent is one and the same.
-void showImported(Program& program, const std::vector<StoreNode*>& products) {
+// `dropped` is shown no more, else something could be put there and be lost with it.
+void showImported(Program& program, const std::vector<StoreNode*>& products, StoreNode* dropped) {
   if (products.empty()) return;
+  for (; dropped != nullptr; dropped = dropped->next) program.view.removeTreeItem(*dropped);
   program.view.loadForm();
   program.view.loadItemList(products.back()->parent);
   program.view.insertTreeItems(products);
@@ -111,12 +120,14 @@ int ImportProduct(Program& program, const ImportSheet& sheet, std::string_view r
 
 int ImportProducts(Program& program, const ImportSheet& sheet, std::span<const std::size_t> rows) {
   std::vector<StoreNode*> products;
+  // Behind the products that follow there is nothing to drop.
+  StoreNode* dropped = siblingsToDrop(program.project);
   for (const std::size_t row : rows) {
     if (ImportProduct(program, sheet, sheet.rows[row].text.view()) == 1) {
       products.push_back(program.project.currentNode);
     }
   }
-  showImported(program, products);
+  showImported(program, products, dropped);
   return static_cast<int>(products.size());
 }
 

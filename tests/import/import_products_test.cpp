@@ -272,6 +272,17 @@ TEST_F(ImportedProducts, AtAProductInTheMiddleTheSiblingsBehindItDropOutOfTheLis
   ExpectSoundTree(project);
 }
 
+TEST_F(ImportedProducts, WhatDropsOutIsShownNoMore) {
+  StoreNode* ball = AddProduct(project, "Ball", home);
+  AddProduct(project, "Car", home);
+  AddCategory(project, "Books", home);
+  Select(project, ball);
+  import(SheetOf({"title"}, {"Doll", "Kite"}));
+  EXPECT_THAT(t.view.calls, ElementsAre("removeTreeItem Car", "removeTreeItem Books", "loadForm", "loadItemList Home",
+                                        "insertTreeItem Doll behind Ball", "insertTreeItem Kite behind Ball",
+                                        "refreshCommandStates"));
+}
+
 TEST_F(ImportedProducts, WhatDroppedOutCanBePutBackWithoutLosingAnythingElse) {
   StoreNode* ball = AddProduct(project, "Ball", home);
   StoreNode* car = AddProduct(project, "Car", home);

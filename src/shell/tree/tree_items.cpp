@@ -1,6 +1,7 @@
 #include "shell/tree/tree_items.h"
 
 #include <array>
+#include <span>
 #include <vector>
 
 #include "core/program/program.h"
@@ -57,8 +58,17 @@ void removeBranch(Shell& shell, StoreNode& node) {
   }
 }
 
-// The node that holds the list in which `node` hangs, null for the top level; nothing when it hangs nowhere.
+bool isChildOf(const StoreNode& node, const StoreNode& holder) {
+  const StoreNode* child = holder.child;
+  while (child != nullptr && child != &node) child = child->next;
+  return child != nullptr;
+}
+
+// The node that holds the list in which `node` hangs, null for the top level; nothing when it hangs nowhere. Its
+// parent is asked first: among thousands of imported products the way back from each to the one before is long.
 std::optional<StoreNode*> holderOf(const StoreProject& project, const StoreNode& node) {
+  StoreNode* parent = LiveParent(node);
+  if (parent != nullptr && isChildOf(node, *parent)) return parent;
   const StoreNode* first = &node;
   NodePlace place = FindNodePlace(project, *first);
   while (place.found && place.owner != nullptr && !place.asChild) {
@@ -148,6 +158,24 @@ void moveTreeItem(Shell& shell, StoreNode& node) {
   if (node.treeItem != kNoTreeItem) insertTreeBranch(shell, node.child, node.treeItem, kLastItem);
   StoreNode* holder = nodeOfItem(shell, *parent);
   if (holder != nullptr) refreshChildrenFlag(shell, *holder);
+}
+
+void insertTreeItems(Shell& shell, std::span<StoreNode* const> nodes) {
+  if (shell.mainWindow == nullptr) return;
+  const Raised muted(shell.notificationsMuted);
+  const HeldPainting held(shell.mainWindow->tree());
+  const StoreNode* before = nullptr;
+  std::optional<TreeItem> parent;
+  for (StoreNode* node : nodes) {
+    if (before == nullptr || before->next != node) {
+      // A chain is inserted with its first node.
+      if (node->treeItem == kNoTreeItem) moveTreeItem(shell, *node);
+      parent = parentItemOf(shell, *node);
+    } else if (parent.has_value() && before->treeItem != kNoTreeItem) {
+      insertTreeItem(shell, *node, *parent, before->treeItem);
+    }
+    before = node;
+  }
 }
 
 void removeTreeItem(Shell& shell, StoreNode& node) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 
 #include "platform/main_window.h"
 
@@ -33,6 +34,10 @@ void insertTreeBranch(Shell& shell, StoreNode* first, TreeItem parent, TreeItem 
 // Inserts a node's item anew, with its branch, where the node is linked now; a node in no shown branch gets none.
 // The selection that this moves is not told.
 void moveTreeItem(Shell& shell, StoreNode& node);
+
+// Inserts the items of new nodes where they are linked, each behind the one before it where it hangs there. Thousands
+// take little more than a few.
+void insertTreeItems(Shell& shell, std::span<StoreNode* const> nodes);
 
 // Removes the item of a node and those of all below it. The selection that this moves is not told.
 void removeTreeItem(Shell& shell, StoreNode& node);

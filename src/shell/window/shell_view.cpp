@@ -29,6 +29,9 @@ void ShellView::fillTree() {
 void ShellView::insertTreeItem(StoreNode& node, StoreNode* /*behind*/) {
   if (shell_ != nullptr) varlo::moveTreeItem(*shell_, node);
 }
+void ShellView::insertTreeItems(std::span<StoreNode* const> nodes) {
+  if (shell_ != nullptr) varlo::insertTreeItems(*shell_, nodes);
+}
 void ShellView::moveTreeItem(StoreNode& node) {
   if (shell_ != nullptr) varlo::moveTreeItem(*shell_, node);
 }

@@ -18,6 +18,7 @@ class ShellView : public View {
   void clearTree() override;
   void fillTree() override;
   void insertTreeItem(StoreNode& node, StoreNode* behind) override;
+  void insertTreeItems(std::span<StoreNode* const> nodes) override;
   void moveTreeItem(StoreNode& node) override;
   void removeTreeItem(StoreNode& node) override;
   void refreshTreeItem(StoreNode& node) override;

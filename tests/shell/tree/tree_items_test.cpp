@@ -247,5 +247,85 @@ TEST(TreeItems, NothingHappensWithoutAWindow) {
   EXPECT_EQ(nodeOfItem(t.shell, 1), nullptr);
 }
 
+// Products that were made one after the other, as an import makes them.
+struct MadeInARow {
+  ShownStore t;
+  StoreNode* home = t.category("Home");
+  std::vector<StoreNode*> made;
+
+  // Makes them while nothing is shown of it, and then shows them.
+  void makeThree() {
+    t.shell.mainWindow = nullptr;
+    for (const char* title : {"A", "B", "C"}) {
+      NewProduct(t.program, title);
+      made.push_back(t.project().currentNode);
+    }
+    t.attach();
+    insertTreeItems(t.shell, made);
+  }
+};
+
+TEST(TreeItems, OfProductsMadeInARowStandBehindEachOther) {
+  MadeInARow m;
+  m.t.product("Old", m.home);
+  m.t.show(m.home);
+  m.makeThree();
+  EXPECT_EQ(m.t.tree().shown(), "Home(Old A B C)");
+  EXPECT_TRUE(m.t.itemOf(m.home).hasChildren);
+}
+
+TEST(TreeItems, OfProductsMadeBehindOneStandInFrontOfThoseThatFollow) {
+  MadeInARow m;
+  StoreNode* old = m.t.product("Old", m.home);
+  m.t.product("Last", m.home);
+  m.t.show(m.home);
+  m.t.project().currentNode = old;
+  m.makeThree();
+  EXPECT_EQ(m.t.tree().shown(), "Home(Old A B C Last)");
+}
+
+TEST(TreeItems, OfProductsMadeInAChainStandBelowEachOther) {
+  MadeInARow m;
+  StoreNode* old = m.t.product("Old", m.home);
+  StoreNode* chained = m.t.project().nodes.allocate();
+  chained->kind = NodeKind::Product;
+  chained->title.assign("Chained");
+  chained->prev = old;
+  chained->parent = m.home;
+  old->child = chained;
+  m.t.show(m.home);
+  m.t.project().currentNode = old;
+  m.makeThree();
+  EXPECT_EQ(m.t.tree().shown(), "Home(Old(A(B(C(Chained)))))");
+}
+
+TEST(TreeItems, OfProductsWhoseHolderIsNotShownAreNotShown) {
+  MadeInARow m;
+  m.t.show(m.home);
+  StoreNode* lost = m.t.project().nodes.allocate();
+  m.t.project().currentNode = m.t.project().treeNode = lost;
+  m.makeThree();
+  EXPECT_EQ(m.t.tree().shown(), "Home");
+}
+
+TEST(TreeItems, OfTenThousandProductsComeAtOnce) {
+  MadeInARow m;
+  m.t.show(m.home);
+  m.t.shell.mainWindow = nullptr;
+  for (int i = 0; i < 10000; ++i) {
+    // As an import links them: each behind the one before, with the category as prev.
+    StoreNode* node = m.t.project().nodes.allocate();
+    node->kind = NodeKind::Product;
+    node->id = i + 1;
+    node->parent = node->prev = m.home;
+    (m.made.empty() ? m.home->child : m.made.back()->next) = node;
+    m.made.push_back(node);
+  }
+  m.t.attach();
+  insertTreeItems(m.t.shell, m.made);
+  EXPECT_NE(m.made.back()->treeItem, kNoTreeItem);
+  EXPECT_EQ(parentItemOf(m.t.shell, *m.made.back()), m.home->treeItem);
+}
+
 }  // namespace
 }  // namespace varlo::test
