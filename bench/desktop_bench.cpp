@@ -21,7 +21,7 @@
 
 #include "bench/made_project.h"
 #include "platform/command.h"
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
 
 namespace varlo::bench {
 namespace {
@@ -71,8 +71,8 @@ class RunningProgram {
 
   // Waits until the window has done what it was asked for.
   void settle() const { ::SendMessageA(window_, WM_NULL, 0, 0); }
-  [[nodiscard]] HWND tree() const { return ::GetDlgItem(window_, control::main::kTree); }
-  [[nodiscard]] HWND list() const { return ::GetDlgItem(window_, control::main::kItemList); }
+  [[nodiscard]] HWND tree() const { return ::GetDlgItem(window_, main_window::kTree); }
+  [[nodiscard]] HWND list() const { return ::GetDlgItem(window_, main_window::kItemList); }
   [[nodiscard]] double peakMegabytes() const {
     PROCESS_MEMORY_COUNTERS counters{};
     ::GetProcessMemoryInfo(process_.hProcess, &counters, sizeof counters);
@@ -92,7 +92,7 @@ class RunningProgram {
     while ((window = ::FindWindowExA(nullptr, window, "#32770", nullptr)) != nullptr) {
       DWORD process = 0;
       ::GetWindowThreadProcessId(window, &process);
-      const bool own = process == process_.dwProcessId && ::GetDlgItem(window, control::main::kTree) != nullptr;
+      const bool own = process == process_.dwProcessId && ::GetDlgItem(window, main_window::kTree) != nullptr;
       if (own && ::IsWindowVisible(window) != 0) return window;
     }
     return nullptr;

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -14,6 +15,25 @@
 #include "platform/geometry.h"
 
 namespace varlo {
+
+// The controls of the main window itself. The window that the logic's shape describes has these; the toolbar is made
+// on demand.
+namespace main_window {
+enum : ControlId {
+  kWindow = 900,
+  kTree,
+  kItemList,
+  kTabs,
+  kStatusBar,
+  kToolbar,
+  kPreview = 911,
+  kProduct,
+  kCategory,
+  kShelf,
+  kList,
+  kBuild,
+};
+}
 
 // What the shell hangs on a tree item or a row. The window only keeps it.
 using ItemData = void*;
@@ -115,9 +135,9 @@ struct MainWindow {
   // Right edges of the parts of the status bar; -1 is the window's edge.
   virtual void setStatusParts(std::span<const int> edges) = 0;
 
-  // Opens a dialog as page of the tab control; null when it can't be made. The logic must live until
-  // closePage. There is one page at a time.
-  virtual Dialog* openPage(int dialogId, DialogLogic& logic) = 0;
+  // Opens a dialog as page of the tab control; null when it can't be made. There is one page at a time. It keeps its
+  // logic until it is closed and what the logic does has returned.
+  virtual Dialog* openPage(std::shared_ptr<DialogLogic> logic) = 0;
   virtual void closePage() = 0;
 
   [[nodiscard]] virtual Focus focus() const = 0;
@@ -125,7 +145,6 @@ struct MainWindow {
   // What the window's layout depends on.
   [[nodiscard]] virtual Size clientSize() const = 0;
   [[nodiscard]] virtual int rowHeight() const = 0;  // of an edit field
-  [[nodiscard]] virtual int leftWidth() const = 0;  // left edge of the tab control as designed
   // `pixels` of an ordinary screen (96 dots an inch) on this one.
   [[nodiscard]] virtual int scaled(int pixels) const = 0;
   // Moves the page that is open.
@@ -146,15 +165,14 @@ struct MainWindow {
   virtual void end() = 0;
 };
 
-// A key in the tree or the list that means something to the shell.
-enum class Key { Other, Delete, Control, Up, Down, KeypadPlus, KeypadMinus, A };
-
 // Row changes that the list tells for one key press.
 inline constexpr int kChangesOfAKey = 3;
 
 // What the window tells the shell.
 struct MainWindowLogic {
   virtual ~MainWindowLogic() = default;
+  // What is in the window, and how large it opens.
+  [[nodiscard]] virtual const DialogShape& shape() const = 0;
   virtual void opened(MainWindow& window) = 0;
   virtual void command(Command command) = 0;
   virtual void tabSelected(int tab) = 0;

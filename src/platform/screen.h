@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -56,9 +57,10 @@ struct Screen {
   // user cancelled. The chooser shows the custom colours and changes them in place.
   virtual std::optional<std::uint32_t> chooseColour(std::uint32_t start, CustomColours& custom) = 0;
   // Runs a modal dialog; the result that it ended with, 0 when it can't be shown.
-  virtual int runDialog(int dialogId, DialogLogic& logic) = 0;
-  // Opens a modeless dialog; null when it can't be shown. The logic must live until it is told `closed`.
-  virtual Dialog* openDialog(int dialogId, DialogLogic& logic) = 0;
+  virtual int runDialog(DialogLogic& logic) = 0;
+  // Opens a modeless dialog; null when it can't be shown. The window keeps the logic until it is gone and what the
+  // logic does has returned.
+  virtual Dialog* openDialog(std::shared_ptr<DialogLogic> logic) = 0;
   // Shows a menu at the mouse; the command that was chosen, none when it was left.
   virtual Command popupMenu(const PopupMenu& menu) = 0;
   // Queues a command behind the running one instead of calling it.

@@ -10,10 +10,7 @@
 
 namespace varlo {
 
-// Of WM_COMMAND.
-[[nodiscard]] Notice NoticeOfCommand(ControlKind kind, int code);
-
-// Of WM_NOTIFY of a list in columns; none for what the logic is not told.
-[[nodiscard]] std::optional<Notice> NoticeOfList(const NMHDR& header);
+// Of WM_COMMAND; none for what the logic is not told.
+[[nodiscard]] std::optional<Notice> NoticeOfCommand(ControlKind kind, int code);
 
 }  // namespace varlo

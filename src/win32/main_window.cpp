@@ -2,8 +2,10 @@
 
 #include <memory>
 
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
 #include "win32/dialog_host.h"
+#include "win32/dialog_template.h"
+#include "win32/resource_ids.h"
 #include "win32/win32_main_window.h"
 
 namespace varlo {
@@ -38,8 +40,9 @@ INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
 bool RunMainWindow(MainWindowLogic& logic, const std::function<void(HWND)>& created) {
   LoadControlClasses();
   Run run{.logic = logic, .created = created, .window = nullptr};
-  const INT_PTR result = ::DialogBoxParamA(::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(dialog::kMain), nullptr,
-                                           procedure, reinterpret_cast<LPARAM>(&run));
+  const DialogTemplate window(logic.shape(), RESOURCE_MAIN_MENU);
+  const INT_PTR result = ::DialogBoxIndirectParamA(::GetModuleHandleA(nullptr), window.get(), nullptr, procedure,
+                                                   reinterpret_cast<LPARAM>(&run));
   return result == 1;
 }
 

@@ -1,5 +1,5 @@
-// Numbers of the resources that only the windows know. Defines, since the resource compiler reads them too; the
-// numbers of commands, dialogs and controls come to it from platform/command.h and platform/control_ids.h.
+// Numbers of the resources that only the windows know. Defines, since the resource compiler reads them too; those of
+// commands come to it from platform/command.h.
 #pragma once
 
 #define RESOURCE_PROGRAM_ICON 1

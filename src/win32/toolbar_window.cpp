@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
 #include "win32/resource_ids.h"
 #include "win32/screen_scale.h"
 
@@ -50,7 +50,7 @@ HWND CreateToolbarWindow(HWND parent, std::span<const ToolbarButton> buttons) {
   constexpr DWORD kStyle =
       WS_CHILD | TBSTYLE_TOOLTIPS | TBSTYLE_FLAT | CCS_NORESIZE | CCS_NOPARENTALIGN | CCS_NODIVIDER;
   const HWND toolbar = ::CreateWindowExA(0, TOOLBARCLASSNAMEA, "Toolbar", kStyle, 0, 0, 0, 0, parent,
-                                         reinterpret_cast<HMENU>(INT_PTR{control::main::kToolbar}),
+                                         reinterpret_cast<HMENU>(INT_PTR{main_window::kToolbar}),
                                          ::GetModuleHandleA(nullptr), nullptr);
   if (toolbar == nullptr) return nullptr;
   ::SendMessageA(toolbar, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON), 0);

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "win32/screen_scale.h"
 #include "win32/window_text.h"
@@ -30,18 +31,40 @@ void widenListBox(HWND list, const std::string& row) {
   }
 }
 
-// The height of a combo box is that of its field with the list dropped down.
-int heightOf(HWND control, int height) {
-  constexpr int kRowsShown = 12;
-  if (KindOf(control) != ControlKind::ComboBox) return height;
-  return height + kRowsShown * static_cast<int>(::SendMessageA(control, CB_GETITEMHEIGHT, 0, 0));
-}
-
 }  // namespace
 
-void Win32Dialog::attach(HWND window, Ending ending) {
+void Win32Dialog::attach(HWND window, Ending ending, DialogLogic* logic, RowList::Teller teller) {
   window_ = window;
   ending_ = std::move(ending);
+  logic_ = logic;
+  teller_ = std::move(teller);
+}
+
+// A rich edit tells nothing unless it is asked to.
+void Win32Dialog::make(const DialogShape& shape) {
+  controls_.make(window_, shape, logic_, teller_);
+  const auto ask = [](HWND control, LPARAM) {
+    if (KindOf(control) == ControlKind::RichEdit)
+      ::SendMessageA(control, EM_SETEVENTMASK, 0, ENM_CHANGE | ENM_KEYEVENTS | ENM_MOUSEEVENTS);
+    return TRUE;
+  };
+  ::EnumChildWindows(window_, static_cast<WNDENUMPROC>(ask), 0);
+}
+
+void Win32Dialog::reshape() {
+  if (window_ == nullptr || logic_ == nullptr) return;
+  ::SendMessageA(window_, WM_SETREDRAW, FALSE, 0);
+  paint_.clear();
+  make(logic_->shape());
+  controls_.layOut();
+  ::SendMessageA(window_, WM_SETREDRAW, TRUE, 0);
+  ::RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void Win32Dialog::draw(const DRAWITEMSTRUCT& item) { paint_.draw(item); }
+
+HBRUSH Win32Dialog::coloursOf(HWND control, HDC canvas) const {
+  return paint_.coloursOf(::GetDlgCtrlID(control), canvas);
 }
 
 LRESULT Win32Dialog::send(ControlId control, UINT message, WPARAM wParam, LPARAM lParam) const {
@@ -92,9 +115,20 @@ void Win32Dialog::enable(ControlId control, bool on) {
   }
 }
 
+void Win32Dialog::show(ControlId control, bool on) {
+  const HWND target = item(control);
+  if (target == nullptr) return;
+  if (!on) leave(target);
+  ::ShowWindow(target, on ? SW_SHOWNA : SW_HIDE);
+}
+
 bool Win32Dialog::isChecked(ControlId control) { return ::IsDlgButtonChecked(window_, control) == BST_CHECKED; }
 
+// The other radio buttons of a choice are released with it, as by a click.
 void Win32Dialog::check(ControlId control, bool on) {
+  if (on && controls_.kindOf(control) == Kind::Radio) {
+    for (const ControlId each : controls_.choiceOf(control)) ::CheckDlgButton(window_, each, BST_UNCHECKED);
+  }
   ::CheckDlgButton(window_, control, on ? BST_CHECKED : BST_UNCHECKED);
 }
 
@@ -113,6 +147,14 @@ void Win32Dialog::caretToEnd(ControlId control) {
   }
   const int end = ::GetWindowTextLengthA(item(control));
   send(control, EM_SETSEL, static_cast<WPARAM>(end), end);
+}
+
+void Win32Dialog::selectText(ControlId control) {
+  if (controls_.kindOf(control) == Kind::Combo) {
+    send(control, CB_SETEDITSEL, 0, MAKELPARAM(0, -1));
+  } else {
+    send(control, EM_SETSEL, 0, -1);
+  }
 }
 
 void Win32Dialog::repaint(ControlId control) {
@@ -141,29 +183,37 @@ void Win32Dialog::replaceSelection(ControlId control, std::string_view text) {
 void Win32Dialog::selectAll(ControlId control) { send(control, EM_SETSEL, 0, -1); }
 
 // CB_RESETCONTENT would empty the field above as well.
-void Win32Dialog::clearCombo(ControlId control) {
-  while (send(control, CB_GETCOUNT) > 0) send(control, CB_DELETESTRING, 0);
+void Win32Dialog::clearRows(ControlId control) {
+  switch (controls_.kindOf(control)) {
+    case Kind::Combo:
+      while (send(control, CB_GETCOUNT) > 0) send(control, CB_DELETESTRING, 0);
+      break;
+    case Kind::DropList:
+      send(control, CB_RESETCONTENT);
+      break;
+    default:
+      send(control, LB_RESETCONTENT);
+      send(control, LB_SETHORIZONTALEXTENT, 0);
+      break;
+  }
 }
 
-void Win32Dialog::addComboRow(ControlId control, std::string_view text) {
+void Win32Dialog::addRow(ControlId control, std::string_view text) {
   const std::string row(text);
-  send(control, CB_ADDSTRING, 0, pointer(row.c_str()));
+  if (controls_.kindOf(control) != Kind::ListBox) {
+    send(control, CB_ADDSTRING, 0, pointer(row.c_str()));
+  } else if (item(control) != nullptr) {
+    send(control, LB_ADDSTRING, 0, pointer(row.c_str()));
+    widenListBox(item(control), row);
+  }
 }
 
-void Win32Dialog::clearListBox(ControlId control) {
-  send(control, LB_RESETCONTENT);
-  send(control, LB_SETHORIZONTALEXTENT, 0);
-}
-
-void Win32Dialog::addListBoxRow(ControlId control, std::string_view text) {
-  const std::string row(text);
-  if (item(control) == nullptr) return;
-  send(control, LB_ADDSTRING, 0, pointer(row.c_str()));
-  widenListBox(item(control), row);
-}
-
-void Win32Dialog::showListBoxRow(ControlId control, int row) {
-  send(control, LB_SETCARETINDEX, static_cast<WPARAM>(row), FALSE);
+void Win32Dialog::showRow(ControlId control, int row) {
+  if (RowList* list = controls_.list(control)) {
+    list->show(row);
+  } else {
+    send(control, LB_SETCARETINDEX, static_cast<WPARAM>(row), FALSE);
+  }
 }
 
 void Win32Dialog::setProgressTop(ControlId control, int top) {
@@ -193,32 +243,76 @@ void InsertListColumns(HWND list, std::span<const ListColumn> columns) {
 }
 
 void Win32Dialog::setColumns(ControlId control, std::span<const ListColumn> columns) {
-  const HWND list = item(control);
-  if (list == nullptr) return;
-  ::SendMessageA(list, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT);
-  while (::SendMessageA(list, LVM_DELETECOLUMN, 0, 0) != FALSE) {
-  }
-  InsertListColumns(list, columns);
+  if (RowList* list = controls_.list(control)) list->setColumns(columns);
+}
+
+void Win32Dialog::setHeading(ControlId control, int column, std::string_view heading) {
+  if (RowList* list = controls_.list(control)) list->setHeading(column, heading);
 }
 
 void Win32Dialog::setRowCount(ControlId control, int count) {
-  send(control, LVM_SETITEMCOUNT, static_cast<WPARAM>(count));
+  if (RowList* list = controls_.list(control)) list->setCount(count);
+}
+
+void Win32Dialog::orderRows(ControlId control, std::span<const int> rows) {
+  if (RowList* list = controls_.list(control)) list->order(rows);
+}
+
+void Win32Dialog::repaintRow(ControlId control, int row) {
+  if (RowList* list = controls_.list(control)) list->repaint(row);
 }
 
 int Win32Dialog::selectedRow(ControlId control) {
+  if (const RowList* list = controls_.list(control)) return list->selected();
   if (item(control) == nullptr) return kNoRow;
-  return static_cast<int>(send(control, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+  return static_cast<int>(send(control, controls_.kindOf(control) == Kind::ListBox ? LB_GETCURSEL : CB_GETCURSEL));
 }
 
 void Win32Dialog::selectRow(ControlId control, int row) {
-  LVITEMA state{};
-  state.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-  send(control, LVM_SETITEMSTATE, static_cast<WPARAM>(-1), pointer(&state));
-  if (row == kNoRow) return;
-  state.state = LVIS_SELECTED | LVIS_FOCUSED;
-  send(control, LVM_SETITEMSTATE, static_cast<WPARAM>(row), pointer(&state));
-  send(control, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+  if (RowList* list = controls_.list(control)) {
+    list->select(row);
+  } else {
+    const bool isListBox = controls_.kindOf(control) == Kind::ListBox;
+    send(control, isListBox ? LB_SETCURSEL : CB_SETCURSEL, static_cast<WPARAM>(row));
+  }
 }
+
+bool Win32Dialog::isRowSelected(ControlId control, int row) {
+  const RowList* list = controls_.list(control);
+  return list != nullptr ? list->isSelected(row) : row != kNoRow && selectedRow(control) == row;
+}
+
+void Win32Dialog::selectAllRows(ControlId control) {
+  if (RowList* list = controls_.list(control)) list->selectAll();
+}
+
+void Win32Dialog::setPicture(ControlId control, std::string_view path) {
+  paint_.setPicture(control, path);
+  if (item(control) != nullptr) ::InvalidateRect(item(control), nullptr, TRUE);
+}
+
+void Win32Dialog::setSwatch(ControlId control, std::optional<Colour> colour) {
+  paint_.setSwatch(control, colour);
+  if (item(control) != nullptr) ::InvalidateRect(item(control), nullptr, TRUE);
+}
+
+void Win32Dialog::setTextColours(ControlId control, Colour text, Colour background) {
+  paint_.setTextColours(control, text, background);
+  if (item(control) != nullptr) ::InvalidateRect(item(control), nullptr, TRUE);
+}
+
+void Win32Dialog::setStatusParts(ControlId control, std::span<const int> edges) {
+  std::vector<int> parts(edges.begin(), edges.end());
+  for (int& edge : parts) edge = edge < 0 ? -1 : ScaledPixels(edge);
+  send(control, SB_SETPARTS, parts.size(), pointer(parts.data()));
+}
+
+void Win32Dialog::setStatusText(ControlId control, int part, std::string_view text) {
+  const std::string shown(text);
+  send(control, SB_SETTEXTA, static_cast<WPARAM>(part), pointer(shown.c_str()));
+}
+
+void Win32Dialog::setTitle(std::string_view title) { ::SetWindowTextA(window_, std::string(title).c_str()); }
 
 void Win32Dialog::place(std::span<const Placement> placements) {
   HDWP moves = ::BeginDeferWindowPos(static_cast<int>(placements.size()));
@@ -227,7 +321,7 @@ void Win32Dialog::place(std::span<const Placement> placements) {
     if (target == nullptr) continue;
     if (!placement.shown) leave(target);
     const Rectangle& place = placement.place;
-    const int height = heightOf(target, std::max(place.height, 0));
+    const int height = std::max(place.height, 0);
     const UINT flags = SWP_NOZORDER | SWP_NOACTIVATE | (placement.shown ? SWP_SHOWWINDOW : SWP_HIDEWINDOW);
     if (moves != nullptr) {
       moves =
@@ -241,6 +335,17 @@ Size Win32Dialog::clientSize() const {
   RECT client{};
   ::GetClientRect(window_, &client);
   return {client.right, client.bottom};
+}
+
+Rectangle Win32Dialog::screenPlace(ControlId control) const {
+  RECT place{};
+  ::GetWindowRect(item(control), &place);
+  return {place.left, place.top, place.right - place.left, place.bottom - place.top};
+}
+
+void Win32Dialog::moveWindow(const Rectangle& place) {
+  ::SetWindowPos(window_, nullptr, place.left, place.top, std::max(place.width, 0), std::max(place.height, 0),
+                 SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 int Win32Dialog::scaled(int pixels) const { return ScaledPixels(pixels); }

@@ -7,10 +7,11 @@
 #include <utility>
 #include <vector>
 
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
 #include "win32/dialog_host.h"
 #include "win32/message_hooks.h"
 #include "win32/resource_ids.h"
+#include "win32/screen_scale.h"
 #include "win32/toolbar_window.h"
 #include "win32/win32_screen.h"
 #include "win32/window_text.h"
@@ -26,12 +27,12 @@ constexpr UINT_PTR kDragTimer = 1;
 constexpr UINT kDragTick = 50;  // milliseconds
 
 // The command buttons right of the tree send commands of the menu.
-constexpr std::array<std::pair<ControlId, Command>, 6> kButtons{{{control::main::kPreview, Command::PreviewPage},
-                                                                 {control::main::kProduct, Command::NewProduct},
-                                                                 {control::main::kCategory, Command::NewCategory},
-                                                                 {control::main::kShelf, Command::NewShelf},
-                                                                 {control::main::kList, Command::NewList},
-                                                                 {control::main::kBuild, Command::BuildStore}}};
+constexpr std::array<std::pair<ControlId, Command>, 6> kButtons{{{main_window::kPreview, Command::PreviewPage},
+                                                                 {main_window::kProduct, Command::NewProduct},
+                                                                 {main_window::kCategory, Command::NewCategory},
+                                                                 {main_window::kShelf, Command::NewShelf},
+                                                                 {main_window::kList, Command::NewList},
+                                                                 {main_window::kBuild, Command::BuildStore}}};
 
 Command commandOf(int id) {
   const auto found =
@@ -67,10 +68,9 @@ Win32MainWindow::Win32MainWindow(HWND window, MainWindowLogic& logic)
     : window_(window),
       logic_(logic),
       icons_(LoadItemImages()),
-      tree_(item(control::main::kTree), icons_, logic, dragImage_),
-      list_(item(control::main::kItemList), icons_, logic, dragImage_) {
-  controls_.attach(window, [this](int) { end(); });
-  leftWidth_ = designedLeft(control::main::kTabs);
+      tree_(makeControls(), icons_, logic, dragImage_),
+      list_(item(main_window::kItemList), icons_, logic, dragImage_) {
+  setSize();
   loadIcon();
   FilterKeys(window_, [this](MSG& message) { return filterKey(message); });
   WatchFocus(window_, kFocusMoved);
@@ -82,12 +82,24 @@ Win32MainWindow::~Win32MainWindow() {
   ::ImageList_Destroy(icons_);
 }
 
-int Win32MainWindow::designedLeft(ControlId control) const {
-  RECT place{};
-  ::GetWindowRect(item(control), &place);
-  POINT corner{place.left, place.top};
-  ::ScreenToClient(window_, &corner);
-  return corner.x;
+// Makes what is in the window; gives the tree.
+HWND Win32MainWindow::makeControls() {
+  controls_.attach(window_, [this](int) { end(); });
+  controls_.make(logic_.shape());
+  return item(main_window::kTree);
+}
+
+// In the middle of the screen.
+void Win32MainWindow::setSize() const {
+  const Size inside = logic_.shape().size;
+  RECT frame{0, 0, ScaledPixels(inside.width), ScaledPixels(inside.height)};
+  ::AdjustWindowRectEx(&frame, static_cast<DWORD>(::GetWindowLongPtrA(window_, GWL_STYLE)), TRUE, 0);
+  RECT work{};
+  ::SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
+  const LONG width = std::min(frame.right - frame.left, work.right - work.left);
+  const LONG height = std::min(frame.bottom - frame.top, work.bottom - work.top);
+  ::SetWindowPos(window_, nullptr, (work.left + work.right - width) / 2, (work.top + work.bottom - height) / 2, width,
+                 height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void Win32MainWindow::loadIcon() const {
@@ -144,6 +156,7 @@ INT_PTR Win32MainWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
       logic_.command(static_cast<Command>(wParam));
       return TRUE;
     case kFocusMoved:
+      RevealFocus(page_);
       logic_.focusMoved();
       return TRUE;
     case kRepaint:
@@ -232,7 +245,7 @@ bool Win32MainWindow::selectionPlace(HWND window, RECT& place) const {
 }
 
 void Win32MainWindow::sized(WPARAM how) {
-  ::SendMessageA(item(control::main::kStatusBar), WM_SIZE, 0, 0);
+  ::SendMessageA(item(main_window::kStatusBar), WM_SIZE, 0, 0);
   if (how != SIZE_MINIMIZED) logic_.resized();
 }
 
@@ -252,19 +265,19 @@ void Win32MainWindow::checkEntry(Command command, bool on) {
 }
 
 void Win32MainWindow::createToolbar(std::span<const ToolbarButton> buttons) {
-  const HWND old = item(control::main::kToolbar);
+  const HWND old = item(main_window::kToolbar);
   if (old != nullptr) ::DestroyWindow(old);
   CreateToolbarWindow(window_, buttons);
 }
 
 void Win32MainWindow::enableTool(Command command, bool on) {
-  ::SendMessageA(item(control::main::kToolbar), TB_ENABLEBUTTON, static_cast<WPARAM>(command), on ? TRUE : FALSE);
+  ::SendMessageA(item(main_window::kToolbar), TB_ENABLEBUTTON, static_cast<WPARAM>(command), on ? TRUE : FALSE);
 }
 
 void Win32MainWindow::setTitle(std::string_view title) { ::SetWindowTextA(window_, std::string(title).c_str()); }
 
 void Win32MainWindow::setTabs(std::span<const std::string_view> labels) {
-  const HWND tabs = item(control::main::kTabs);
+  const HWND tabs = item(main_window::kTabs);
   ::SendMessageA(tabs, TCM_DELETEALLITEMS, 0, 0);
   WPARAM index = 0;
   for (const std::string_view label : labels) {
@@ -278,18 +291,18 @@ void Win32MainWindow::setTabs(std::span<const std::string_view> labels) {
 
 void Win32MainWindow::setStatusParts(std::span<const int> edges) {
   const std::vector<int> parts(edges.begin(), edges.end());
-  ::SendMessageA(item(control::main::kStatusBar), SB_SETPARTS, parts.size(), reinterpret_cast<LPARAM>(parts.data()));
+  ::SendMessageA(item(main_window::kStatusBar), SB_SETPARTS, parts.size(), reinterpret_cast<LPARAM>(parts.data()));
 }
 
 // The page lies just above the tab control, which so paints around it and comes after it in the order of Tab.
-Dialog* Win32MainWindow::openPage(int dialogId, DialogLogic& logic) {
+Dialog* Win32MainWindow::openPage(std::shared_ptr<DialogLogic> logic) {
   closePage();
-  Win32Dialog* page = OpenPageDialog(window_, dialogId, logic);
+  Win32Dialog* page = OpenPageDialog(window_, std::move(logic));
   if (page == nullptr) return nullptr;
   page_ = page->window();
   // The page looks like the inside of its tab.
   ::EnableThemeDialogTexture(page_, ETDT_ENABLETAB);
-  const HWND above = ::GetWindow(item(control::main::kTabs), GW_HWNDPREV);
+  const HWND above = ::GetWindow(item(main_window::kTabs), GW_HWNDPREV);
   ::SetWindowPos(page_, above == nullptr ? HWND_TOP : above, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
   return page;
@@ -298,7 +311,7 @@ Dialog* Win32MainWindow::openPage(int dialogId, DialogLogic& logic) {
 void Win32MainWindow::closePage() {
   const HWND page = std::exchange(page_, nullptr);
   if (page == nullptr || ::IsWindow(page) == FALSE) return;
-  if (::IsChild(page, ::GetFocus()) != FALSE) ::SetFocus(item(control::main::kTabs));
+  if (::IsChild(page, ::GetFocus()) != FALSE) ::SetFocus(item(main_window::kTabs));
   ::DestroyWindow(page);
 }
 
@@ -314,10 +327,8 @@ Focus Win32MainWindow::focus() const {
 }
 
 int Win32MainWindow::rowHeight() const {
-  constexpr int kEditHeight = 14;  // in units of the dialog
-  RECT row{0, 0, 0, kEditHeight};
-  ::MapDialogRect(window_, &row);
-  return row.bottom;
+  constexpr int kEditHeight = 23;
+  return scaled(kEditHeight);
 }
 
 void Win32MainWindow::placePage(const Rectangle& place) {

@@ -40,14 +40,13 @@ class Win32MainWindow : public MainWindow {
   void setTabs(std::span<const std::string_view> labels) override;
   void setStatusParts(std::span<const int> edges) override;
 
-  Dialog* openPage(int dialogId, DialogLogic& logic) override;
+  Dialog* openPage(std::shared_ptr<DialogLogic> logic) override;
   void closePage() override;
 
   [[nodiscard]] Focus focus() const override;
 
   [[nodiscard]] Size clientSize() const override { return controls_.clientSize(); }
   [[nodiscard]] int rowHeight() const override;
-  [[nodiscard]] int leftWidth() const override { return leftWidth_; }
   [[nodiscard]] int scaled(int pixels) const override { return controls_.scaled(pixels); }
   void placePage(const Rectangle& place) override;
   void redraw() override;
@@ -62,7 +61,8 @@ class Win32MainWindow : public MainWindow {
 
  private:
   [[nodiscard]] HWND item(ControlId control) const { return ::GetDlgItem(window_, control); }
-  [[nodiscard]] int designedLeft(ControlId control) const;
+  HWND makeControls();
+  void setSize() const;
   void loadIcon() const;
   bool filterKey(MSG& message) const;
   void command(int id, int code);
@@ -78,14 +78,13 @@ class Win32MainWindow : public MainWindow {
 
   HWND window_;
   MainWindowLogic& logic_;
+  Win32Dialog controls_;
   HIMAGELIST icons_;
   DragImage dragImage_;
   HWND dragSource_ = nullptr;  // while something is dragged
   TreeControl tree_;
   ListControl list_;
-  Win32Dialog controls_;
   HWND page_ = nullptr;
-  int leftWidth_ = 0;
   std::string toolTip_;
 };
 

@@ -51,7 +51,6 @@ Answer answerOf(int button) {
 
 // The window that the user works in: a box that belonged to another one would leave this one usable behind it.
 HWND Win32Screen::boxOwner() const {
-  if (taskDialog_ != nullptr) return taskDialog_;
   const HWND active = ::GetActiveWindow();
   if (active != nullptr) return active;
   return owner_ == nullptr ? nullptr : ::GetLastActivePopup(owner_);
@@ -63,29 +62,27 @@ Answer Win32Screen::messageBox(const MessageBoxRequest& request) {
 }
 
 int Win32Screen::runTask(std::string_view title, std::string_view text, const std::function<int()>& task) {
-  const HWND outer = taskDialog_;
-  const int result = RunTaskDialog(boxOwner(), title, text, [&](HWND dialog) {
-    taskDialog_ = dialog;
-    const int done = task();
-    taskDialog_ = outer;
-    return done;
-  });
-  return result;
+  TaskDialog* outer = task_;
+  TaskDialog dialog(title, text, task);
+  task_ = &dialog;
+  RunModalDialog(boxOwner(), dialog);
+  task_ = outer;
+  return dialog.hasRun() ? dialog.result() : task();
 }
 
 void Win32Screen::showTaskCount(int count) {
-  if (taskDialog_ != nullptr) ShowTaskDialogCount(taskDialog_, count);
+  if (task_ != nullptr) task_->showCount(count);
 }
 
 void Win32Screen::setWaitCursor(bool on) {
   ::SetCursor(::LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(on ? IDC_WAIT : IDC_ARROW)));
 }
 
-int Win32Screen::runDialog(int dialogId, DialogLogic& logic) { return RunModalDialog(boxOwner(), dialogId, logic); }
+int Win32Screen::runDialog(DialogLogic& logic) { return RunModalDialog(boxOwner(), logic); }
 
 // A modeless dialog belongs to the main window, whatever is active: it may outlive the rest.
-Dialog* Win32Screen::openDialog(int dialogId, DialogLogic& logic) {
-  return OpenModelessDialog(owner_, dialogId, logic);
+Dialog* Win32Screen::openDialog(std::shared_ptr<DialogLogic> logic) {
+  return OpenModelessDialog(owner_, std::move(logic));
 }
 
 void Win32Screen::postCommand(Command command) {

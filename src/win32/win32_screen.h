@@ -24,8 +24,8 @@ class Win32Screen : public Screen {
   std::optional<std::string> chooseFile(const FileChooserRequest& request) override;
   std::optional<std::string> chooseFolder(std::string_view title) override;
   std::optional<std::uint32_t> chooseColour(std::uint32_t start, CustomColours& custom) override;
-  int runDialog(int dialogId, DialogLogic& logic) override;
-  Dialog* openDialog(int dialogId, DialogLogic& logic) override;
+  int runDialog(DialogLogic& logic) override;
+  Dialog* openDialog(std::shared_ptr<DialogLogic> logic) override;
   Command popupMenu(const PopupMenu& menu) override;
   void postCommand(Command command) override;
 
@@ -33,7 +33,7 @@ class Win32Screen : public Screen {
   [[nodiscard]] HWND boxOwner() const;
 
   HWND owner_;
-  HWND taskDialog_ = nullptr;
+  class TaskDialog* task_ = nullptr;  // whose task is running
 };
 
 }  // namespace varlo

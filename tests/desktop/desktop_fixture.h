@@ -12,7 +12,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
+#include "shell/tabs/inventory_page.h"
 #include "tests/desktop/desktop_program.h"
 #include "tests/desktop/window_driving.h"
 #include "tests/desktop/window_reading.h"
@@ -33,9 +34,9 @@ class DesktopTest : public ::testing::Test {
   void stop() { program_.reset(); }
   DesktopProgram& program() { return *program_; }
   [[nodiscard]] HWND window() const { return program_->window(); }
-  [[nodiscard]] HWND tree() const { return program_->control(control::main::kTree); }
-  [[nodiscard]] HWND list() const { return program_->control(control::main::kItemList); }
-  [[nodiscard]] HWND tabs() const { return program_->control(control::main::kTabs); }
+  [[nodiscard]] HWND tree() const { return program_->control(main_window::kTree); }
+  [[nodiscard]] HWND list() const { return program_->control(main_window::kItemList); }
+  [[nodiscard]] HWND tabs() const { return program_->control(main_window::kTabs); }
 
   // Clicks an item of the tree.
   HTREEITEM pick(const TreePath& path) {
@@ -52,7 +53,7 @@ class DesktopTest : public ::testing::Test {
     return LabelOf(tree(), reinterpret_cast<HTREEITEM>(::SendMessageA(tree(), TVM_GETNEXTITEM, TVGN_CARET, 0)));
   }
   [[nodiscard]] std::string formText(ControlId field) const { return TextOf(program_->field(field)); }
-  [[nodiscard]] std::string formTitle() const { return formText(control::inventory::kTitle); }
+  [[nodiscard]] std::string formTitle() const { return formText(inventory::kTitle); }
   [[nodiscard]] bool isEnabled(Command command) const { return EntryEnabled(window(), static_cast<UINT>(command)); }
   [[nodiscard]] bool canSave() const { return isEnabled(Command::Save); }
   // Clicks into a field of the page, behind its text, and types.

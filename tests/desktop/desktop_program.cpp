@@ -10,7 +10,7 @@
 #include <stdexcept>
 
 #include "core/program/fixed_clock.h"
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
 #include "tests/support/test_program.h"
 #include "win32/desktop_program.h"
 
@@ -37,7 +37,7 @@ LRESULT CALLBACK workProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
 }
 
 BOOL CALLBACK keepMainWindow(HWND window, LPARAM found) {
-  if (::GetDlgItem(window, control::main::kTree) == nullptr || ::IsWindowVisible(window) == 0) return TRUE;
+  if (::GetDlgItem(window, main_window::kTree) == nullptr || ::IsWindowVisible(window) == 0) return TRUE;
   *reinterpret_cast<HWND*>(found) = window;
   return FALSE;
 }

@@ -1,5 +1,7 @@
 // The program in its real window, on the demo store.
 
+#include "platform/main_window.h"
+#include "shell/tabs/inventory_page.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace varlo::test {
@@ -9,7 +11,6 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Not;
-using namespace control;
 
 class Desktop : public DesktopTest {};
 
@@ -184,7 +185,7 @@ TEST_F(Desktop, OffersThePopupMenuOfTheList) {
 
 TEST_F(Desktop, HasAPageForEachTab) {
   start();
-  const HWND tabs = program().control(main::kTabs);
+  const HWND tabs = program().control(main_window::kTabs);
   for (int tab = 6; tab >= 0; --tab) {
     RECT place{};
     ::SendMessageA(tabs, TCM_GETITEMRECT, static_cast<WPARAM>(tab), reinterpret_cast<LPARAM>(&place));
@@ -201,9 +202,9 @@ TEST_F(Desktop, LosesNothingWhenTheTabIsChangedWhileTyping) {
   start();
   pick(kBlackTea);
   typeInto(inventory::kTitle, "x");
-  ::SendMessageA(program().control(main::kTabs), TCM_SETCURFOCUS, 1, 0);
+  ::SendMessageA(program().control(main_window::kTabs), TCM_SETCURFOCUS, 1, 0);
   program().settle();
-  ::SendMessageA(program().control(main::kTabs), TCM_SETCURFOCUS, 0, 0);
+  ::SendMessageA(program().control(main_window::kTabs), TCM_SETCURFOCUS, 0, 0);
   program().settle();
   EXPECT_EQ(TextOf(program().field(inventory::kTitle)), "Black teax");
 }
@@ -221,7 +222,7 @@ TEST_F(Desktop, HidesToolbarAndButtons) {
   EXPECT_FALSE(EntryChecked(program().window(), static_cast<UINT>(Command::ToggleToolbar)));
   program().command(Command::ToggleButtons);
   EXPECT_GT(top().right, before.right);
-  EXPECT_EQ(::IsWindowVisible(program().control(main::kProduct)), FALSE);
+  EXPECT_EQ(::IsWindowVisible(program().control(main_window::kProduct)), FALSE);
   TakePicture(program().window(), "without_toolbar_and_buttons");
 }
 

@@ -4,6 +4,11 @@
 #include <sstream>
 #include <thread>
 
+#include "persist/dialogs/preferences_dialog.h"
+#include "persist/dialogs/restore_dialog.h"
+#include "persist/dialogs/save_as_dialog.h"
+#include "platform/main_window.h"
+#include "shell/tabs/inventory_page.h"
 #include "tests/desktop/desktop_fixture.h"
 #include "tests/desktop/window_faults.h"
 
@@ -15,7 +20,6 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
-using namespace control;
 
 // The edit field of a file chooser for the name.
 constexpr int kChooserName = 0x47C;
@@ -147,7 +151,7 @@ TEST_F(Dialogs, OpenStoreLeavesNoProjectWhenTheFileCantBeRead) {
     EXPECT_TRUE(isEnabled(on)) << static_cast<int>(on);
   }
   EXPECT_EQ(::IsWindowEnabled(program().field(inventory::kTitle)), FALSE);
-  EXPECT_EQ(::IsWindowEnabled(program().control(main::kProduct)), FALSE);
+  EXPECT_EQ(::IsWindowEnabled(program().control(main_window::kProduct)), FALSE);
   EXPECT_THAT(below({"Home"}), testing::Contains("Tea"));
   TakePicture(window(), "no_project");
 

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "platform/main_window.h"
+#include "shell/tabs/inventory_page.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace varlo::test {
@@ -11,7 +13,6 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
-using namespace control;
 
 const char* const kSaveQuestion = "Varlo PRO - Save Store Confirmation";
 
@@ -39,7 +40,7 @@ class Keyboard : public DesktopTest {
   }
   // The branches down to a product are opened by key as well.
   void goToBlackTea() {
-    tabTo(main::kTree);
+    tabTo(main_window::kTree);
     for (const int arrow : {VK_HOME, VK_RIGHT, VK_RIGHT, VK_RIGHT, VK_RIGHT})
       PressKey(program(), static_cast<WORD>(arrow));
     ASSERT_EQ(selectedItem(), "Black tea");
@@ -88,19 +89,20 @@ TEST_F(Keyboard, MenuEntryThatIsGreyDoesNothing) {
 }
 
 TEST_F(Keyboard, TabGoesThroughTheWholeWindowAndBack) {
-  tabTo(main::kTree);
+  tabTo(main_window::kTree);
   std::vector<int> order;
   do {
     order.push_back(focus());
     key(VK_TAB);
-  } while (focus() != main::kTree && order.size() < 60);
-  const std::vector<int> left{main::kTree,  main::kPreview, main::kProduct, main::kCategory,
-                              main::kShelf, main::kList,    main::kBuild,   main::kItemList};
+  } while (focus() != main_window::kTree && order.size() < 60);
+  const std::vector<int> left{main_window::kTree,     main_window::kPreview, main_window::kProduct,
+                              main_window::kCategory, main_window::kShelf,   main_window::kList,
+                              main_window::kBuild,    main_window::kItemList};
   ASSERT_GT(order.size(), left.size());
   EXPECT_EQ(std::vector<int>(order.begin(), order.begin() + 8), left);
   EXPECT_THAT(order, Contains(inventory::kTitle));
   EXPECT_THAT(order, Contains(inventory::kDescription));
-  EXPECT_EQ(order.back(), main::kTabs);
+  EXPECT_EQ(order.back(), main_window::kTabs);
   std::vector<int> back;
   for (std::size_t i = 0; i < order.size(); ++i) {
     shift(VK_TAB);
@@ -110,16 +112,16 @@ TEST_F(Keyboard, TabGoesThroughTheWholeWindowAndBack) {
 }
 
 TEST_F(Keyboard, ArrowsMoveAmongTheCommandButtonsOnly) {
-  tabTo(main::kPreview);
+  tabTo(main_window::kPreview);
   key(VK_UP);
-  EXPECT_EQ(focus(), main::kBuild);
+  EXPECT_EQ(focus(), main_window::kBuild);
   key(VK_DOWN);
   key(VK_DOWN);
-  EXPECT_EQ(focus(), main::kProduct);
+  EXPECT_EQ(focus(), main_window::kProduct);
 }
 
 TEST_F(Keyboard, ArrowsChangeTheTab) {
-  tabTo(main::kTabs);
+  tabTo(main_window::kTabs);
   key(VK_RIGHT);
   EXPECT_EQ(::SendMessageA(tabs(), TCM_GETCURSEL, 0, 0), 1);
   EXPECT_EQ(program().field(inventory::kTitle), nullptr);
@@ -202,7 +204,7 @@ TEST_F(Keyboard, DeleteInTheTreeAsksAndDeletesTheNode) {
 
 TEST_F(Keyboard, CtrlASelectsAllRowsInTheListAlone) {
   goToBlackTea();
-  tabTo(main::kItemList);
+  tabTo(main_window::kItemList);
   ctrl('A');
   EXPECT_THAT(SelectedRows(list()), SizeIs(6));
   key(VK_HOME);
@@ -233,7 +235,7 @@ TEST_F(Keyboard, TabLeavesTheRichEditAndPutsNothingIntoIt) {
   const std::string before = formText(inventory::kDescription);
   ASSERT_FALSE(before.empty());
   key(VK_TAB);
-  EXPECT_EQ(focus(), main::kTabs);
+  EXPECT_EQ(focus(), main_window::kTabs);
   shift(VK_TAB);
   EXPECT_EQ(focus(), inventory::kDescription);
   shift(VK_TAB);
@@ -245,7 +247,7 @@ TEST_F(Keyboard, TabLeavesTheRichEditAndPutsNothingIntoIt) {
 // Each key alone shows the row that it goes to, wherever it comes from.
 TEST_F(Keyboard, KeysInTheListShowTheNodeOfTheRow) {
   goToBlackTea();
-  tabTo(main::kItemList);
+  tabTo(main_window::kItemList);
   ASSERT_THAT(SelectedRows(list()), IsEmpty());
   const auto expectAfter = [&](WORD pressed, int row) {
     key(pressed);
@@ -278,7 +280,7 @@ TEST_F(Keyboard, KeysInTheListShowTheNodeOfTheRow) {
 
 TEST_F(Keyboard, CtrlWithAnArrowMovesInTheListWithoutShowingTheRow) {
   goToBlackTea();
-  tabTo(main::kItemList);
+  tabTo(main_window::kItemList);
   key(VK_HOME);
   ASSERT_EQ(formTitle(), CellOf(list(), 0, 0));
   ctrl(VK_DOWN);
@@ -333,7 +335,7 @@ TEST_F(Keyboard, EscapeLeavesDialogs) {
 }
 
 TEST_F(Keyboard, EscapeQuitsTheProgramFromTheTree) {
-  tabTo(main::kTree);
+  tabTo(main_window::kTree);
   key(VK_ESCAPE);
   EXPECT_TRUE(program().waitForEnd());
 }

@@ -3,6 +3,8 @@
 #include <array>
 #include <fstream>
 
+#include "platform/main_window.h"
+#include "shell/tabs/inventory_page.h"
 #include "tests/desktop/desktop_fixture.h"
 #include "tests/desktop/window_faults.h"
 
@@ -12,7 +14,6 @@ namespace {
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using namespace control;
 
 const TreePath kHerbal{"Home", "Tea", "Herbal infusions"};  // a list
 
@@ -26,7 +27,7 @@ class Nodes : public DesktopTest {
  protected:
   Nodes() { start(); }
 
-  [[nodiscard]] HWND toolbar() const { return program_->control(main::kToolbar); }
+  [[nodiscard]] HWND toolbar() const { return program_->control(main_window::kToolbar); }
   [[nodiscard]] HWND header() const { return reinterpret_cast<HWND>(::SendMessageA(list(), LVM_GETHEADER, 0, 0)); }
   [[nodiscard]] POINT tool(Command command) const {
     RECT place{};
@@ -68,10 +69,10 @@ class Nodes : public DesktopTest {
 };
 
 TEST_F(Nodes, CommandButtonsMakeNodes) {
-  const std::array<std::pair<ControlId, const char*>, 4> buttons{{{main::kProduct, "New Product"},
-                                                                  {main::kCategory, "New Category"},
-                                                                  {main::kShelf, "New Shelf"},
-                                                                  {main::kList, "New List"}}};
+  const std::array<std::pair<ControlId, const char*>, 4> buttons{{{main_window::kProduct, "New Product"},
+                                                                  {main_window::kCategory, "New Category"},
+                                                                  {main_window::kShelf, "New Shelf"},
+                                                                  {main_window::kList, "New List"}}};
   for (const auto& [button, title] : buttons) {
     pick(kBlackTea);
     click(button);
@@ -113,10 +114,10 @@ TEST_F(Nodes, PopupMenuOfTheListMakesANodeBesideTheRow) {
 
 TEST_F(Nodes, NothingButProductsIsMadeInAList) {
   pick(kHerbal);
-  for (const ControlId button : {main::kCategory, main::kShelf, main::kList}) {
+  for (const ControlId button : {main_window::kCategory, main_window::kShelf, main_window::kList}) {
     EXPECT_EQ(::IsWindowEnabled(program().control(button)), FALSE) << button;
   }
-  click(main::kProduct);
+  click(main_window::kProduct);
   expectNew(kHerbal, "New Product");
   EXPECT_NE(::IsWindowEnabled(program().field(inventory::kTitle)), FALSE);
   EXPECT_EQ(::IsWindowEnabled(program().field(inventory::kFileName)), FALSE) << "It has no page of its own.";
@@ -124,7 +125,7 @@ TEST_F(Nodes, NothingButProductsIsMadeInAList) {
 
 TEST_F(Nodes, DisableAndEnableInTheTreeChangeTheIconAndNothingElse) {
   pick(kBlackTea);
-  click(main::kShelf);
+  click(main_window::kShelf);
   program().command(Command::Save);
   const std::array<std::tuple<TreePath, int, int>, 4> kinds{{{kBlackTea, 10, 17},
                                                              {kAssam, 11, 19},
@@ -280,7 +281,7 @@ TEST_F(Nodes, ControlsStayInsideTheWindowAndApartAtAnySize) {
 
 TEST_F(Nodes, PreviewButtonsAskWhereThePreviewGoes) {
   pick(kBlackTea);
-  for (const POINT button : {CentreOf(program().control(main::kPreview)),
+  for (const POINT button : {CentreOf(program().control(main_window::kPreview)),
                              CentreOf(program().field(inventory::kPreview)), tool(Command::PreviewPage)}) {
     Click(program(), button);
     const HWND dialog = WaitForBox("Build");

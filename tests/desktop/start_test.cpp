@@ -3,6 +3,8 @@
 #include <fstream>
 #include <thread>
 
+#include "platform/main_window.h"
+#include "shell/tabs/inventory_page.h"
 #include "tests/desktop/desktop_fixture.h"
 
 namespace varlo::test {
@@ -11,7 +13,6 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-using namespace control;
 
 class Start : public DesktopTest {
  protected:
@@ -27,7 +28,8 @@ class Start : public DesktopTest {
       EXPECT_EQ(formText(field), "") << field;
       EXPECT_EQ(::IsWindowEnabled(program().field(field)), FALSE) << field;
     }
-    for (const ControlId button : {main::kPreview, main::kProduct, main::kCategory, main::kShelf, main::kList}) {
+    for (const ControlId button : {main_window::kPreview, main_window::kProduct, main_window::kCategory,
+                                   main_window::kShelf, main_window::kList}) {
       EXPECT_EQ(::IsWindowEnabled(program().control(button)), FALSE) << button;
     }
     for (const Command grey :

@@ -12,11 +12,14 @@
 #include "core/program/program.h"
 #include "core/tree/store_tree.h"
 #include "generator/build/build_driver.h"
+#include "generator/build/first_build_dialog.h"
+#include "generator/build/store_build_dialog.h"
 #include "generator/state/generator.h"
 #include "persist/life/file_steps.h"
 #include "persist/project/project_load.h"
 #include "persist/project/project_save.h"
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
+#include "shell/tabs/inventory_page.h"
 #include "tests/desktop/dde_server.h"
 #include "tests/desktop/desktop_program.h"
 #include "tests/desktop/window_driving.h"
@@ -30,7 +33,6 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using namespace control;
 
 // Does `work` with the demo project of an installation, without a window.
 void WithEngine(const Installation& installation, const std::function<void(Program&)>& work) {
@@ -64,7 +66,7 @@ class DesktopStore : public ::testing::Test {
   void start() { program_ = std::make_unique<DesktopProgram>(installation_.folder()); }
   DesktopProgram& program() { return *program_; }
   void pick(const TreePath& path) {
-    const HWND tree = program().control(main::kTree);
+    const HWND tree = program().control(main_window::kTree);
     const HTREEITEM item = FindItem(tree, path);
     ASSERT_NE(item, nullptr) << path.back();
     Click(program(), CentreOfItem(tree, item));

@@ -3,6 +3,8 @@
 
 #include <cstdlib>
 
+#include "platform/main_window.h"
+#include "shell/tabs/inventory_page.h"
 #include "tests/desktop/desktop_fixture.h"
 #include "tests/desktop/window_faults.h"
 
@@ -59,7 +61,6 @@ TEST_F(Windows, HaveAWholeInventoryPage) {
 
 // At 150 and 200 percent there are images of their own.
 TEST_F(Windows, AreScaledToTheScreen) {
-  using namespace control;
   const char* expected = std::getenv("VARLO_DPI");
   if (expected != nullptr) {
     EXPECT_EQ(std::to_string(dpi()), expected);
@@ -73,7 +74,7 @@ TEST_F(Windows, AreScaledToTheScreen) {
     EXPECT_EQ(width, icon);
     EXPECT_EQ(height, icon);
   };
-  const HWND toolbar = program().control(main::kToolbar);
+  const HWND toolbar = program().control(main_window::kToolbar);
   expectIcons(tree(), TVM_GETIMAGELIST, TVSIL_NORMAL);
   expectIcons(list(), LVM_GETIMAGELIST, LVSIL_SMALL);
   expectIcons(toolbar, TB_GETIMAGELIST, 0);
@@ -94,7 +95,7 @@ TEST_F(Windows, AreScaledToTheScreen) {
 
 // The controls that Tab reaches, in its order.
 TEST_F(Windows, LetTabGoThroughTheFormInReadingOrder) {
-  using namespace control::inventory;
+  using namespace inventory;
   std::vector<int> reached;
   HWND control = program().field(kTitle);
   do {

@@ -35,6 +35,12 @@ class ColourPickingTest : public testing::Test, protected DialogLogic {
     scheme.slot[kSlot.number] = "RED";
     show(scheme);
   }
+  [[nodiscard]] const DialogShape& shape() const override {
+    static constexpr Row kRows[] = {
+        {{{.id = kSlot.field, .kind = Kind::Edit, .buttons = {{kSlot.swatch, "", 28, Kind::Swatch}}}}}};
+    static constexpr DialogShape kShape{.rows = kRows};
+    return kShape;
+  }
   void opened(Dialog&) override {}
   void notified(Dialog& dialog, const ControlEvent& event) override {
     if (event.control == kSlot.swatch && event.notice == Notice::GotFocus) picking.pick(dialog, kSlot);

@@ -19,7 +19,7 @@ BEGIN {
   level["win32"] = level["posix"] = level["cli"] = 7
 
   # The rooms of a folder, from the ground up. Such a folder has no files outside of its rooms.
-  rooms("core", "text store program tree")
+  rooms("core", "text forms store program tree")
   rooms("persist", "installation project life dialogs")
   rooms("commerce", "cards freight tax wizard")
   rooms("generator", "state items template pages cart build")

@@ -259,24 +259,23 @@ class FakeMainWindow : public MainWindow {
   void setTitle(std::string_view title) override { title_ = title; }
   void setTabs(std::span<const std::string_view> labels) override { tabs_.assign(labels.begin(), labels.end()); }
   void setStatusParts(std::span<const int> edges) override { statusParts_.assign(edges.begin(), edges.end()); }
-  Dialog* openPage(int dialogId, DialogLogic& logic) override {
+  Dialog* openPage(std::shared_ptr<DialogLogic> logic) override {
     closePage();
-    pageId_ = dialogId;
-    pageLogic_ = &logic;
-    page_ = std::make_unique<FakeWindow>(logic);
+    pageId_ = logic->shape().id;
+    pageLogic_ = logic;
+    page_ = std::make_unique<FakeWindow>(std::move(logic));
     page_->open();
     return page_.get();
   }
   void closePage() override {
     if (page_ == nullptr) return;
-    page_.reset();
+    gonePages_.push_back(std::move(page_));  // what it does may not have returned
     pageId_ = 0;
-    pageLogic_->closed();
+    std::exchange(pageLogic_, nullptr)->closed();
   }
   [[nodiscard]] Focus focus() const override { return focused; }
   [[nodiscard]] Size clientSize() const override { return size; }
   [[nodiscard]] int rowHeight() const override { return 21; }
-  [[nodiscard]] int leftWidth() const override { return 350; }
   [[nodiscard]] int scaled(int pixels) const override { return pixels; }
   void placePage(const Rectangle& place) override { pagePlace_ = place; }
   void redraw() override { ++redraws_; }
@@ -298,17 +297,11 @@ class FakeMainWindow : public MainWindow {
     return found == states.end() ? otherwise : found->second;
   }
 
-  // The frame's own buttons send commands, so its logic has nothing to do.
-  struct NoLogic : DialogLogic {
-    void opened(Dialog& /*dialog*/) override {}
-    void notified(Dialog& /*dialog*/, const ControlEvent& /*event*/) override {}
-  };
-
   MainWindowLogic& logic_;
-  NoLogic frameLogic_;
-  FakeWindow frame_{frameLogic_};
+  FakeWindow frame_{logic_.shape()};
   std::unique_ptr<FakeWindow> page_;
-  DialogLogic* pageLogic_ = nullptr;
+  std::vector<std::unique_ptr<FakeWindow>> gonePages_;
+  std::shared_ptr<DialogLogic> pageLogic_;
   int pageId_ = 0;
   Rectangle pagePlace_;
   std::map<Command, bool> entries_;

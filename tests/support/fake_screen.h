@@ -39,9 +39,9 @@ class FakeScreen : public Screen {
   std::vector<Command> posted;  // commands that were queued
   std::vector<int> dialogs;     // numbers of the dialogs that were run or opened
   // Plays the user of a modal dialog; without it the dialog is cancelled at once.
-  std::function<int(int dialogId, DialogLogic& logic)> onDialog;
+  std::function<int(DialogLogic& logic)> onDialog;
   // Makes the window of a modeless dialog; without it none can be opened.
-  std::function<Dialog*(int dialogId, DialogLogic& logic)> onOpenDialog;
+  std::function<Dialog*(const std::shared_ptr<DialogLogic>& logic)> onOpenDialog;
   std::vector<PopupMenu> menus;                     // that were shown
   std::deque<Command> chosenFromMenus;              // without one the menu is left
   std::function<Command(const PopupMenu&)> onMenu;  // plays the user of menus instead
@@ -72,13 +72,13 @@ class FakeScreen : public Screen {
     if (onColours) onColours(custom);
     return takeFirst(colours);
   }
-  int runDialog(int dialogId, DialogLogic& logic) override {
-    dialogs.push_back(dialogId);
-    return onDialog ? onDialog(dialogId, logic) : 0;
+  int runDialog(DialogLogic& logic) override {
+    dialogs.push_back(logic.shape().id);
+    return onDialog ? onDialog(logic) : 0;
   }
-  Dialog* openDialog(int dialogId, DialogLogic& logic) override {
-    dialogs.push_back(dialogId);
-    return onOpenDialog ? onOpenDialog(dialogId, logic) : nullptr;
+  Dialog* openDialog(std::shared_ptr<DialogLogic> logic) override {
+    dialogs.push_back(logic->shape().id);
+    return onOpenDialog ? onOpenDialog(logic) : nullptr;
   }
   Command popupMenu(const PopupMenu& menu) override {
     menus.push_back(menu);

@@ -25,9 +25,6 @@ FakeScreen::~FakeScreen() = default;
 FakeTree::FakeTree() = default;
 FakeTree::~FakeTree() = default;
 
-FakeWindow::FakeWindow(DialogLogic& logic) : logic_(logic) {}
-FakeWindow::~FakeWindow() = default;
-
 RecordingView::RecordingView() = default;
 RecordingView::~RecordingView() = default;
 

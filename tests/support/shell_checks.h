@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/control_ids.h"
+#include "shell/tabs/inventory_page.h"
 #include "tests/support/shown_store.h"
 
 namespace varlo::test {
@@ -27,14 +27,14 @@ class FormCheck {
   FormCheck(FakeWindow& page, const StoreNode* node, EmptyTemplate empty) : page_(page), node_(node), empty_(empty) {}
 
   void expectFewFields() {
-    expect(control::inventory::kTitle, &StoreNode::title);
+    expect(inventory::kTitle, &StoreNode::title);
     expectFileName();
     expectTemplate();
-    expect(control::inventory::kDescription, &StoreNode::body);
+    expect(inventory::kDescription, &StoreNode::body);
   }
 
   void expectAllFields() {
-    using namespace control::inventory;
+    using namespace inventory;
     expectFewFields();
     expect(kPageTitle, &StoreNode::pageTitle);
     expect(kProductCode, &StoreNode::productCode);
@@ -73,13 +73,13 @@ class FormCheck {
   void expectFileName() {
     const StoreNode* parent = node_ == nullptr ? nullptr : parentOf(*node_);
     const StoreNode* owner = holdsItems(parent) ? parent : node_;
-    EXPECT_EQ(shown(control::inventory::kFileName), owner == nullptr ? "" : owner->fileName.orEmpty());
+    EXPECT_EQ(shown(inventory::kFileName), owner == nullptr ? "" : owner->fileName.orEmpty());
   }
 
   void expectTemplate() {
     static constexpr const char* kDefaults[] = {"category.htm", "product.htm", "shelf.htm", "list.htm"};
     std::string wanted = kept(&StoreNode::templateName);
-    const std::string field = shown(control::inventory::kTemplate);
+    const std::string field = shown(inventory::kTemplate);
     if (wanted.empty() && empty_ == EmptyTemplate::MayShowNothing && field.empty()) return;
     if (wanted.empty() && node_ != nullptr) wanted = kDefaults[static_cast<int>(node_->kind)];
     EXPECT_EQ(field, wanted);
@@ -92,7 +92,6 @@ class FormCheck {
 
 // The rules of entries, tools, buttons and fields of which the reasons are few.
 inline void expectStates(TestShell& shell) {
-  using namespace control;
   FakeMainWindow& window = shell.window;
   const StoreProject& project = shell.project();
   const StoreNode* node = project.currentNode;
@@ -114,8 +113,8 @@ inline void expectStates(TestShell& shell) {
   EXPECT_EQ(window.toolEnabled(Command::NewProduct), open && node != nullptr);
   EXPECT_EQ(window.toolEnabled(Command::NewShelf),
             open && !onHolder && (parent == nullptr || parent->kind != NodeKind::Shelf));
-  EXPECT_EQ(window.frame().isEnabled(main::kProduct), open && node != nullptr);
-  EXPECT_EQ(window.frame().isEnabled(main::kCategory), open && !onHolder && !holdsItems(parent));
+  EXPECT_EQ(window.frame().isEnabled(main_window::kProduct), open && node != nullptr);
+  EXPECT_EQ(window.frame().isEnabled(main_window::kCategory), open && !onHolder && !holdsItems(parent));
 
   const Focus focus = window.focused;
   if (focus.place == Focus::Place::Tree || focus.place == Focus::Place::ItemList) {
@@ -125,7 +124,7 @@ inline void expectStates(TestShell& shell) {
     EXPECT_EQ(window.entryEnabled(Command::SelectAll), focus.place == Focus::Place::ItemList);
     EXPECT_FALSE(window.entryEnabled(Command::Find));
   }
-  if (window.pageId() != dialog::kInventoryPage) return;
+  if (window.pageId() != inventory::kWindow) return;
   FakeWindow& page = *window.page();
   const bool ready = open && filled && node != nullptr;
   EXPECT_EQ(page.isEnabled(inventory::kTitle), ready);

@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "platform/control_ids.h"
 #include "shell/state/shell.h"
 #include "shell/tabs/tab_switch.h"
 #include "tests/support/fake_browsers.h"
@@ -32,7 +31,7 @@ struct TestForm : TestProgram {
   Shell shell{program, browsers};
   StoreNode* home = AddCategory(project(), "Home");
   StoreNode* ball = AddProduct(project(), "Ball", home);
-  std::unique_ptr<DialogLogic> logic;
+  std::shared_ptr<TabPage> logic;
   std::unique_ptr<RecordingWindow> page;
 
   TestForm() { Select(project(), ball); }
@@ -43,7 +42,7 @@ struct TestForm : TestProgram {
   void open(Tab tab = Tab::Inventory) {
     close();
     shell.currentTab = tab;
-    logic = makePage(shell, tab);
+    shell.pageLogic = logic = traitsOf(tab).makePage(shell);
     page = std::make_unique<RecordingWindow>(*logic);
     page->open();
     view.calls.clear();
@@ -52,6 +51,7 @@ struct TestForm : TestProgram {
   void close() {
     page.reset();
     if (logic != nullptr) logic->closed();
+    shell.pageLogic = nullptr;
     logic.reset();
   }
 };

@@ -161,7 +161,7 @@ TEST_F(ListControlTest, FindsTheRowAtAPointButNotInTheHeading) {
 
 TEST_F(ListControlTest, TellsOfAClickOnAHeading) {
   NMLISTVIEW clicked{};
-  clicked.hdr = {listHandle(), static_cast<UINT_PTR>(control::main::kItemList), LVN_COLUMNCLICK};
+  clicked.hdr = {listHandle(), static_cast<UINT_PTR>(main_window::kItemList), LVN_COLUMNCLICK};
   clicked.iSubItem = 1;
   ::SendMessageA(handle, WM_NOTIFY, clicked.hdr.idFrom, reinterpret_cast<LPARAM>(&clicked));
   EXPECT_EQ(logic.count("column 1"), 1);

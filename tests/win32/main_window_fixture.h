@@ -9,9 +9,12 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
+#include "shell/window/main_layout.h"
 #include "tests/win32/window_support.h"
 #include "win32/dialog_host.h"
+#include "win32/dialog_template.h"
+#include "win32/resource_ids.h"
 #include "win32/win32_main_window.h"
 
 namespace varlo::test {
@@ -27,6 +30,7 @@ class RecordingMainLogic : public MainWindowLogic {
     return number;
   }
 
+  [[nodiscard]] const DialogShape& shape() const override { return MainWindowShape(); }
   void opened(MainWindow& /*window*/) override { tell("opened"); }
   void command(Command command) override { tell("command", static_cast<int>(command)); }
   void tabSelected(int tab) override { tell("tab", tab); }
@@ -81,8 +85,9 @@ class MainWindowTest : public testing::Test {
 
   void SetUp() override {
     LoadControlClasses();
-    handle = ::CreateDialogParamA(::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(dialog::kMain), nullptr, procedure,
-                                  reinterpret_cast<LPARAM>(this));
+    const DialogTemplate frame(logic.shape(), RESOURCE_MAIN_MENU);
+    handle = ::CreateDialogIndirectParamA(::GetModuleHandleA(nullptr), frame.get(), nullptr, procedure,
+                                          reinterpret_cast<LPARAM>(this));
     ASSERT_NE(handle, nullptr);
     ::ShowWindow(handle, SW_SHOW);
     settle();
@@ -93,8 +98,8 @@ class MainWindowTest : public testing::Test {
   }
 
   [[nodiscard]] HWND item(ControlId control) const { return ::GetDlgItem(handle, control); }
-  HWND treeHandle() const { return item(control::main::kTree); }
-  HWND listHandle() const { return item(control::main::kItemList); }
+  HWND treeHandle() const { return item(main_window::kTree); }
+  HWND listHandle() const { return item(main_window::kItemList); }
   // Runs what is queued and forgets what was told.
   void settle() {
     pump(handle);

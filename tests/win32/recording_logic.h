@@ -2,9 +2,11 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "persist/dialogs/save_as_dialog.h"
 #include "platform/dialog.h"
 #include "win32/win32_dialog.h"
 
@@ -12,6 +14,9 @@ namespace varlo::test {
 
 class RecordingLogic : public DialogLogic {
  public:
+  explicit RecordingLogic(const DialogShape& shape = SaveAsDialog::kShape) : itsShape(&shape) {}
+
+  const DialogShape* itsShape;
   std::vector<std::string> told;
   std::function<void(Dialog&)> whenOpened;
   std::function<void(Dialog&, const ControlEvent&)> whenNotified;
@@ -25,14 +30,19 @@ class RecordingLogic : public DialogLogic {
     return number;
   }
 
+  // For windows that keep their logic; the test keeps this one.
+  [[nodiscard]] std::shared_ptr<DialogLogic> shared() { return {std::shared_ptr<void>(), this}; }
+
+  [[nodiscard]] const DialogShape& shape() const override { return *itsShape; }
   void opened(Dialog& dialog) override {
     window = &dialog;
     told.emplace_back("opened");
     if (whenOpened) whenOpened(dialog);
   }
   void notified(Dialog& dialog, const ControlEvent& event) override {
-    static constexpr const char* kNames[] = {"Changed",       "GotFocus",    "LostFocus", "Clicked",
-                                             "DoubleClicked", "RowSelected", "Posted",    "Other"};
+    static constexpr const char* kNames[] = {"Changed",       "GotFocus",     "LostFocus",      "Clicked",
+                                             "DoubleClicked", "RightClicked", "HeadingClicked", "SelectionChanged",
+                                             "KeyPressed",    "Posted"};
     told.push_back(std::string(kNames[static_cast<int>(event.notice)]) + " " + std::to_string(event.control));
     if (whenNotified) whenNotified(dialog, event);
   }

@@ -1,4 +1,4 @@
-// The menu, the dialogs and the pages as they are in the resources.
+// The menu and the images as they are in the resources, and all windows as they are made from their shapes.
 
 #include <windows.h>
 
@@ -6,7 +6,7 @@
 
 #include <array>
 #include <cctype>
-#include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -14,7 +14,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/command.h"
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
+#include "tests/support/all_shapes.h"
 #include "tests/win32/window_support.h"
 #include "win32/dialog_host.h"
 #include "win32/resource_ids.h"
@@ -25,16 +26,19 @@
 namespace varlo::test {
 namespace {
 
-// A dialog made from its template, with no logic.
+// A window made from a shape, with a logic that does nothing.
 class BareDialog {
  public:
-  explicit BareDialog(int dialogId) {
+  explicit BareDialog(const DialogShape& shape) {
     LoadControlClasses();
     parent_ =
-        ::CreateWindowExA(0, "Static", "", WS_OVERLAPPEDWINDOW, 0, 0, 900, 700, nullptr, nullptr, nullptr, nullptr);
-    window_ = ::CreateDialogParamA(
-        ::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(static_cast<WORD>(dialogId)), parent_,
-        [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0);
+        ::CreateWindowExA(0, "Static", "", WS_OVERLAPPEDWINDOW, 0, 0, 900, 760, nullptr, nullptr, nullptr, nullptr);
+    const auto logic = std::make_shared<NoLogic>(shape);
+    Win32Dialog* dialog =
+        shape.form == Form::Page ? OpenPageDialog(parent_, logic) : OpenModelessDialog(parent_, logic);
+    window_ = dialog->window();
+    if (shape.form == Form::Page)
+      ::SetWindowPos(window_, nullptr, 0, 0, ScaledPixels(560), ScaledPixels(640), SWP_NOZORDER);
   }
   ~BareDialog() {
     ::DestroyWindow(window_);
@@ -44,18 +48,18 @@ class BareDialog {
   BareDialog& operator=(const BareDialog&) = delete;
 
   [[nodiscard]] HWND get() const { return window_; }
-  [[nodiscard]] HWND item(ControlId control) const { return ::GetDlgItem(window_, control); }
 
  private:
+  struct NoLogic : DialogLogic {
+    explicit NoLogic(const DialogShape& shape) : itsShape(shape) {}
+    const DialogShape& itsShape;
+    [[nodiscard]] const DialogShape& shape() const override { return itsShape; }
+    void opened(Dialog& /*dialog*/) override {}
+    void notified(Dialog& /*dialog*/, const ControlEvent& /*event*/) override {}
+  };
   HWND parent_ = nullptr;
   HWND window_ = nullptr;
 };
-
-constexpr std::array kDialogs{dialog::kMain,          dialog::kPreferences,      dialog::kSaveAs,
-                              dialog::kRestore,       dialog::kStoreBuild,       dialog::kFirstBuild,
-                              dialog::kInventoryPage, dialog::kTemplatePage,     dialog::kFreightPage,
-                              dialog::kOrderFormPage, dialog::kConfirmationPage, dialog::kLayoutPage,
-                              dialog::kVariablesPage};
 
 std::string classOf(HWND window) {
   std::array<char, 64> name{};
@@ -75,98 +79,13 @@ bool isField(HWND window) {
 }
 std::string nameOf(HWND window) { return std::to_string(::GetDlgCtrlID(window)) + " \"" + WindowText(window) + "\""; }
 
-TEST(Resources, EveryDialogCanBeMade) {
-  for (const int id : kDialogs) EXPECT_NE(BareDialog(id).get(), nullptr) << id;
-}
-
-TEST(Resources, EveryNumberOfAControlIsInItsDialog) {
-  const std::map<int, std::vector<ControlId>> controls{
-      {dialog::kMain, {901, 902, 903, 904, 911, 912, 913, 914, 915, 916}},
-      {dialog::kPreferences,
-       {1001, 1002, 1003, 1004, 1005, 1006, 1007, control::kOk, control::kCancel, control::kHelp}},
-      {dialog::kSaveAs, {1101, 1102, control::kOk, control::kCancel}},
-      {dialog::kRestore, {1201, control::kOk, control::kCancel, control::kHelp}},
-      {dialog::kStoreBuild, {1301, 1302, 1303, 1304, 1305, 1306, control::kOk, control::kCancel, control::kHelp}},
-      {dialog::kFirstBuild, {1401, 1402, control::kOk, control::kCancel}},
-      {dialog::kInventoryPage, {2031, 2032, 2033, 2034, 2035, 2036, 2037}}};
-  for (const auto& [id, numbers] : controls) {
-    const BareDialog made(id);
-    for (const ControlId number : numbers) EXPECT_NE(made.item(number), nullptr) << id << ": " << number;
-  }
-}
-
-TEST(Resources, FieldsOfTheInventoryPageHaveTheirLabelsBeforeThem) {
-  const BareDialog page(dialog::kInventoryPage);
-  for (ControlId field = control::inventory::kTitle; field <= control::inventory::kDescription; ++field) {
-    ASSERT_NE(page.item(field), nullptr) << field;
-    EXPECT_EQ(::GetDlgCtrlID(::GetWindow(page.item(field), GW_HWNDPREV)), field + 50);
-  }
-}
-
-TEST(Resources, InventoryPageIsReadFromTopToBottom) {
-  const BareDialog page(dialog::kInventoryPage);
-  LONG last = 0;
-  for (const HWND child : childrenOf(page.get())) {
-    if (!isField(child)) continue;
-    RECT place{};
-    ::GetWindowRect(child, &place);
-    EXPECT_GE(place.top, last) << nameOf(child);
-    last = place.top;
-  }
-}
-
-TEST(Resources, EveryFieldHasALabelOrAGroupDirectlyBeforeIt) {
-  for (const int id : kDialogs) {
-    if (id == dialog::kMain) continue;
-    const BareDialog made(id);
-    for (const HWND child : childrenOf(made.get())) {
-      if (!isField(child)) continue;
-      const HWND before = ::GetWindow(child, GW_HWNDPREV);
-      ASSERT_NE(before, nullptr) << id << ": " << nameOf(child);
-      EXPECT_TRUE(isStatic(before) || isGroup(before)) << id << ": " << nameOf(child);
-      EXPECT_NE(WindowText(before), "") << id << ": " << nameOf(child);
-    }
-  }
-}
-
-TEST(Resources, EveryFieldAndButtonIsReachedByTab) {
-  for (const int id : kDialogs) {
-    const BareDialog made(id);
+TEST(RealWindows, EveryFieldAndButtonIsReachedByTab) {
+  for (const DialogShape* shape : kAllShapes) {
+    const int id = shape->id;
+    const BareDialog made(*shape);
     for (const HWND child : childrenOf(made.get())) {
       if (!isField(child) && (!isButton(child) || isGroup(child))) continue;
       EXPECT_NE(::GetWindowLongPtrA(child, GWL_STYLE) & WS_TABSTOP, 0) << id << ": " << nameOf(child);
-    }
-  }
-}
-
-// The letter behind a single "&"; 0 without one.
-char mnemonicOf(const std::string& text) {
-  for (std::size_t i = 0; i + 1 < text.size(); ++i) {
-    if (text[i] != '&') continue;
-    if (text[i + 1] != '&') return static_cast<char>(std::toupper(static_cast<unsigned char>(text[i + 1])));
-    ++i;
-  }
-  return 0;
-}
-
-TEST(Resources, NoTwoControlsOfADialogHaveOneMnemonic) {
-  for (const int id : kDialogs) {
-    const BareDialog made(id);
-    std::set<char> used;
-    for (const HWND child : childrenOf(made.get())) {
-      if (!isStatic(child) && !isButton(child)) continue;
-      const char letter = mnemonicOf(WindowText(child));
-      EXPECT_TRUE(letter == 0 || used.insert(letter).second) << id << ": " << nameOf(child);
-    }
-  }
-}
-
-TEST(Resources, PagesLeaveTheLettersOfTheMenuAlone) {
-  for (const int id : {dialog::kMain, dialog::kInventoryPage}) {
-    const BareDialog made(id);
-    for (const HWND child : childrenOf(made.get())) {
-      const char letter = isStatic(child) || isButton(child) ? mnemonicOf(WindowText(child)) : '\0';
-      EXPECT_EQ(std::string("FEVOH").find(letter == 0 ? '?' : letter), std::string::npos) << nameOf(child);
     }
   }
 }
@@ -182,10 +101,10 @@ SIZE drawnSize(HWND control, int width) {
   return {text.right, text.bottom};
 }
 
-TEST(Resources, TextsFitIntoTheirControls) {
-  for (const int id : kDialogs) {
-    if (id == dialog::kMain) continue;
-    const BareDialog made(id);
+TEST(RealWindows, TextsFitIntoTheirControls) {
+  for (const DialogShape* shape : kAllShapes) {
+    const int id = shape->id;
+    const BareDialog made(*shape);
     for (const HWND child : childrenOf(made.get())) {
       if (!isStatic(child) && !isButton(child)) continue;
       RECT room{};
@@ -195,45 +114,6 @@ TEST(Resources, TextsFitIntoTheirControls) {
       EXPECT_LE(drawn.cy, room.bottom) << id << ": " << nameOf(child);
     }
   }
-}
-
-TEST(Resources, ControlsLieInsideTheirDialogAndDoNotOverlap) {
-  for (const int id : kDialogs) {
-    if (id == dialog::kMain) continue;
-    const BareDialog made(id);
-    RECT inside{};
-    ::GetClientRect(made.get(), &inside);
-    ::MapWindowPoints(made.get(), nullptr, reinterpret_cast<POINT*>(&inside), 2);
-    const std::vector<HWND> children = childrenOf(made.get());
-    for (std::size_t i = 0; i < children.size(); ++i) {
-      RECT place{};
-      ::GetWindowRect(children[i], &place);
-      EXPECT_LE(place.right, inside.right) << id << ": " << nameOf(children[i]);
-      EXPECT_LE(place.bottom, inside.bottom) << id << ": " << nameOf(children[i]);
-      for (std::size_t j = i + 1; j < children.size() && !isGroup(children[i]); ++j) {
-        RECT other{};
-        RECT common{};
-        ::GetWindowRect(children[j], &other);
-        EXPECT_EQ(::IntersectRect(&common, &place, &other), FALSE)
-            << id << ": " << nameOf(children[i]) << " and " << nameOf(children[j]);
-      }
-    }
-  }
-}
-
-TEST(Resources, CaptionsAndFixedTextsAreTheSystemsOwn) {
-  EXPECT_EQ(WindowText(BareDialog(dialog::kMain).get()), "Varlo PRO");
-  EXPECT_EQ(WindowText(BareDialog(dialog::kPreferences).get()), "Varlo Preferences");
-  EXPECT_EQ(WindowText(BareDialog(dialog::kSaveAs).get()), "Save Project As");
-  EXPECT_EQ(WindowText(BareDialog(dialog::kRestore).get()), "Restore project from Backup");
-  EXPECT_EQ(WindowText(BareDialog(dialog::kFirstBuild).get()), "Build");
-  const BareDialog build(dialog::kStoreBuild);
-  EXPECT_EQ(WindowText(build.get()), "Store Build");
-  EXPECT_EQ(
-      WindowText(::GetWindow(build.get(), GW_CHILD)),
-      "You are about to re-build the entire store.  Please specify a target directory where the store should be "
-      "built and the store title.");
-  EXPECT_EQ(WindowText(build.item(control::store_build::kBuild)), "&Build");
 }
 
 struct Entry {
@@ -321,9 +201,10 @@ TEST(Resources, ScaleOfImagesFollowsTheScreen) {
   EXPECT_EQ(chosen.id, chosen.percent == 100 ? 1 : chosen.percent == 150 ? 2 : 3);
 }
 
-TEST(Resources, Pictures) {
-  for (const int id : kDialogs) {
-    const BareDialog made(id);
+TEST(RealWindows, Pictures) {
+  for (const DialogShape* shape : kAllShapes) {
+    const int id = shape->id;
+    const BareDialog made(*shape);
     ::ShowWindow(::GetParent(made.get()), SW_SHOW);
     ::ShowWindow(made.get(), SW_SHOW);
     pump(made.get());

@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "shell/tabs/inventory_page.h"
 #include "tests/win32/main_window_fixture.h"
 #include "tests/win32/recording_logic.h"
 #include "win32/main_window.h"
@@ -42,12 +43,12 @@ TEST_F(Win32MainWindowTest, EnablesAndTicksEntriesOfTheMenu) {
 TEST_F(Win32MainWindowTest, MenuAndCommandButtonsSendCommands) {
   ::SendMessageA(handle, WM_COMMAND, static_cast<WPARAM>(Command::Save), 0);
   EXPECT_EQ(logic.count("command " + std::to_string(number(Command::Save))), 1);
-  constexpr std::array<std::pair<ControlId, Command>, 6> kButtons{{{control::main::kPreview, Command::PreviewPage},
-                                                                   {control::main::kProduct, Command::NewProduct},
-                                                                   {control::main::kCategory, Command::NewCategory},
-                                                                   {control::main::kShelf, Command::NewShelf},
-                                                                   {control::main::kList, Command::NewList},
-                                                                   {control::main::kBuild, Command::BuildStore}}};
+  constexpr std::array<std::pair<ControlId, Command>, 6> kButtons{{{main_window::kPreview, Command::PreviewPage},
+                                                                   {main_window::kProduct, Command::NewProduct},
+                                                                   {main_window::kCategory, Command::NewCategory},
+                                                                   {main_window::kShelf, Command::NewShelf},
+                                                                   {main_window::kList, Command::NewList},
+                                                                   {main_window::kBuild, Command::BuildStore}}};
   for (const auto& [button, command] : kButtons) {
     ::SendMessageA(item(button), BM_CLICK, 0, 0);
     EXPECT_EQ(logic.count("command " + std::to_string(number(command))), 1) << button;
@@ -71,7 +72,7 @@ TEST_F(Win32MainWindowTest, RunsCommandsThatTheScreenPosted) {
 
 TEST_F(Win32MainWindowTest, ToolbarSendsCommandsAndAsksForItsTips) {
   createToolbar();
-  const HWND toolbar = item(control::main::kToolbar);
+  const HWND toolbar = item(main_window::kToolbar);
   EXPECT_EQ(::SendMessageA(toolbar, TB_BUTTONCOUNT, 0, 0), 3);
   window->enableTool(Command::Save, false);
   EXPECT_EQ(::SendMessageA(toolbar, TB_ISBUTTONENABLED, static_cast<WPARAM>(Command::Save), 0), FALSE);
@@ -89,21 +90,22 @@ TEST_F(Win32MainWindowTest, ToolbarSendsCommandsAndAsksForItsTips) {
 TEST_F(Win32MainWindowTest, TellsOfTheTabThatIsChosen) {
   constexpr std::array<std::string_view, 3> kTabs{"Inventory", "Template", "Freight"};
   window->setTabs(kTabs);
-  EXPECT_EQ(::SendMessageA(item(control::main::kTabs), TCM_GETITEMCOUNT, 0, 0), 3);
-  ::SendMessageA(item(control::main::kTabs), TCM_SETCURFOCUS, 2, 0);
+  EXPECT_EQ(::SendMessageA(item(main_window::kTabs), TCM_GETITEMCOUNT, 0, 0), 3);
+  ::SendMessageA(item(main_window::kTabs), TCM_SETCURFOCUS, 2, 0);
   EXPECT_EQ(logic.count("tab 2"), 1);
 }
 
 TEST_F(Win32MainWindowTest, OpensOnePageAtATimeBetweenButtonsAndTabs) {
-  RecordingLogic first;
-  RecordingLogic second;
-  Dialog* page = window->openPage(dialog::kInventoryPage, first);
+  RecordingLogic first(InventoryPage::kShape);
+  static constexpr DialogShape kEmpty{.id = 71, .form = Form::Page};
+  RecordingLogic second(kEmpty);
+  Dialog* page = window->openPage(first.shared());
   ASSERT_NE(page, nullptr);
   EXPECT_EQ(first.told.front(), "opened");
-  ASSERT_NE(window->openPage(dialog::kTemplatePage, second), nullptr);
+  ASSERT_NE(window->openPage(second.shared()), nullptr);
   EXPECT_EQ(first.told.back(), "closed");
-  EXPECT_EQ(::GetWindow(second.handle(), GW_HWNDPREV), item(control::main::kItemList));
-  EXPECT_EQ(::GetWindow(second.handle(), GW_HWNDNEXT), item(control::main::kTabs));
+  EXPECT_EQ(::GetWindow(second.handle(), GW_HWNDPREV), item(main_window::kItemList));
+  EXPECT_EQ(::GetWindow(second.handle(), GW_HWNDNEXT), item(main_window::kTabs));
   window->placePage({300, 40, 200, 100});
   EXPECT_EQ(second.window->clientSize(), (Size{200, 100}));
   EXPECT_EQ(second.told.back(), "resized");
@@ -112,33 +114,28 @@ TEST_F(Win32MainWindowTest, OpensOnePageAtATimeBetweenButtonsAndTabs) {
   window->closePage();
 }
 
-TEST_F(Win32MainWindowTest, PageThatDoesNotExistIsNull) {
-  RecordingLogic page;
-  EXPECT_EQ(window->openPage(4711, page), nullptr);
-}
-
 TEST_F(Win32MainWindowTest, KnowsWhereTheFocusIs) {
-  RecordingLogic page;
-  window->openPage(dialog::kInventoryPage, page);
+  RecordingLogic page(InventoryPage::kShape);
+  window->openPage(page.shared());
   ::SetFocus(treeHandle());
   EXPECT_EQ(window->focus().place, Focus::Place::Tree);
   ::SetFocus(listHandle());
   EXPECT_EQ(window->focus().place, Focus::Place::ItemList);
-  ::SetFocus(item(control::main::kTabs));
+  ::SetFocus(item(main_window::kTabs));
   EXPECT_EQ(window->focus().place, Focus::Place::Elsewhere);
-  ::SetFocus(page.item(control::inventory::kTitle));
+  ::SetFocus(page.item(inventory::kTitle));
   EXPECT_EQ(window->focus().place, Focus::Place::Page);
-  EXPECT_EQ(window->focus().control, control::inventory::kTitle);
-  ::SetFocus(::GetWindow(page.item(control::inventory::kTemplate), GW_CHILD));
-  EXPECT_EQ(window->focus().control, control::inventory::kTemplate);
+  EXPECT_EQ(window->focus().control, inventory::kTitle);
+  ::SetFocus(::GetWindow(page.item(inventory::kTemplate), GW_CHILD));
+  EXPECT_EQ(window->focus().control, inventory::kTemplate);
 }
 
 TEST_F(Win32MainWindowTest, ClosingThePageUnderTheFocusLeavesItOnTheTabs) {
-  RecordingLogic page;
-  window->openPage(dialog::kInventoryPage, page);
-  ::SetFocus(page.item(control::inventory::kTitle));
+  RecordingLogic page(InventoryPage::kShape);
+  window->openPage(page.shared());
+  ::SetFocus(page.item(inventory::kTitle));
   window->closePage();
-  EXPECT_EQ(::GetFocus(), item(control::main::kTabs));
+  EXPECT_EQ(::GetFocus(), item(main_window::kTabs));
 }
 
 TEST_F(Win32MainWindowTest, TellsWhenTheFocusHasMoved) {
@@ -149,8 +146,8 @@ TEST_F(Win32MainWindowTest, TellsWhenTheFocusHasMoved) {
 }
 
 TEST_F(Win32MainWindowTest, CopyAndPasteKeysAreCommandsInTreeAndListOnly) {
-  RecordingLogic page;
-  window->openPage(dialog::kInventoryPage, page);
+  RecordingLogic page(InventoryPage::kShape);
+  window->openPage(page.shared());
   const std::string copy = "command " + std::to_string(number(Command::Copy));
   ::SetFocus(treeHandle());
   pressWithControl(treeHandle(), 'C');
@@ -160,8 +157,8 @@ TEST_F(Win32MainWindowTest, CopyAndPasteKeysAreCommandsInTreeAndListOnly) {
   EXPECT_EQ(logic.count(copy), 2);
   pressWithControl(listHandle(), 'V');
   EXPECT_EQ(logic.count("command " + std::to_string(number(Command::Paste))), 1);
-  ::SetFocus(page.item(control::inventory::kTitle));
-  pressWithControl(page.item(control::inventory::kTitle), 'C');
+  ::SetFocus(page.item(inventory::kTitle));
+  pressWithControl(page.item(inventory::kTitle), 'C');
   EXPECT_EQ(logic.count(copy), 2);
 }
 
@@ -173,9 +170,9 @@ TEST_F(Win32MainWindowTest, KeysOfGreyEntriesDoNothing) {
 }
 
 TEST_F(Win32MainWindowTest, FindAndSelectAllKeysAreCommandsInARichEdit) {
-  RecordingLogic page;
-  window->openPage(dialog::kInventoryPage, page);
-  const HWND text = page.item(control::inventory::kDescription);
+  RecordingLogic page(InventoryPage::kShape);
+  window->openPage(page.shared());
+  const HWND text = page.item(inventory::kDescription);
   ::SetFocus(text);
   pressWithControl(text, 'F');
   EXPECT_EQ(logic.count("command " + std::to_string(number(Command::Find))), 1);
@@ -248,13 +245,8 @@ TEST_F(Win32MainWindowTest, DragsARow) {
 }
 
 TEST_F(Win32MainWindowTest, TellsItsMeasures) {
-  RECT tabs{};
-  ::GetWindowRect(item(control::main::kTabs), &tabs);
-  POINT corner{tabs.left, tabs.top};
-  ::ScreenToClient(handle, &corner);
-  EXPECT_EQ(window->leftWidth(), corner.x);
   EXPECT_GT(window->rowHeight(), 15);
-  EXPECT_GT(window->clientSize().width, window->leftWidth());
+  EXPECT_EQ(window->clientSize().width, window->scaled(MainWindowShape().size.width));
 }
 
 TEST_F(Win32MainWindowTest, KeyForThePopupMenuOpensItForWhatIsSelected) {

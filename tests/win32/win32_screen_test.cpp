@@ -64,9 +64,9 @@ TEST(Win32Screen, ATaskRunsWhileItsDialogIsOnTheScreen) {
   const int result = screen.runTask(kProductName, message::kLoadingProject, [&] {
     const HWND dialog = ::FindWindowA("#32770", "Varlo PRO");
     visible = ::IsWindowVisible(dialog) != 0;
-    text = textOf(::GetDlgItem(dialog, kTaskText));
+    text = textOf(::GetDlgItem(dialog, task::kText));
     screen.showTaskCount(24);
-    count = textOf(::GetDlgItem(dialog, kTaskCount));
+    count = textOf(::GetDlgItem(dialog, task::kCount));
     return 7;
   });
   EXPECT_EQ(result, 7);

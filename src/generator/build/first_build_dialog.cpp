@@ -1,21 +1,29 @@
 #include "generator/build/first_build_dialog.h"
 
-#include "core/program/field_text.h"
+#include "core/forms/field_text.h"
 #include "core/program/messages.h"
 #include "core/program/program.h"
 #include "generator/state/build_target.h"
 #include "generator/state/generator.h"
 #include "persist/life/project_life.h"
-#include "platform/control_ids.h"
 
 namespace varlo {
 namespace {
 
-using namespace control::first_build;
+using namespace first_build;
 
-void enableOk(Dialog& dialog) { dialog.enable(control::kOk, !dialog.text(kDirectory).empty()); }
+constexpr Row kRows[] = {
+    {{{.id = kDirectory, .kind = Kind::Edit, .label = "&Directory for Preview files:", .labelWidth = kLabelAbove}}},
+    {{{.id = kTitle, .kind = Kind::Edit, .label = "Store &Title:", .labelWidth = kLabelAbove}}, 4},
+};
+constexpr FootButton kFoot[] = {{kOk, "OK", Option::Default}, {kCancel, "Cancel"}};
+
+void enableOk(Dialog& dialog) { dialog.enable(kOk, !dialog.text(kDirectory).empty()); }
 
 }  // namespace
+
+constinit const DialogShape FirstBuildDialog::kShape{
+    .id = kWindow, .title = "Build", .size = {375, 0}, .rows = kRows, .foot = kFoot};
 
 void FirstBuildDialog::opened(Dialog& dialog) {
   const StoreProject& project = generator_.program.project;
@@ -28,8 +36,8 @@ void FirstBuildDialog::opened(Dialog& dialog) {
 void FirstBuildDialog::notified(Dialog& dialog, const ControlEvent& event) {
   if (event.control == kDirectory && event.notice == Notice::Changed) enableOk(dialog);
   if (event.notice != Notice::Clicked) return;
-  if (event.control == control::kOk) accept(dialog);
-  if (event.control == control::kCancel) closeRequested(dialog);
+  if (event.control == kOk) accept(dialog);
+  if (event.control == kCancel) closeRequested(dialog);
 }
 
 void FirstBuildDialog::closeRequested(Dialog& dialog) {

@@ -3,26 +3,49 @@
 #include <optional>
 #include <string>
 
-#include "core/program/field_text.h"
+#include "core/forms/field_text.h"
 #include "core/program/messages.h"
 #include "core/program/program.h"
 #include "generator/build/build_driver.h"
 #include "generator/state/build_target.h"
 #include "generator/state/generator.h"
-#include "platform/control_ids.h"
 
 namespace varlo {
 namespace {
 
-using namespace control::store_build;
+using namespace store_build;
+
+constexpr Row kRows[] = {
+    {{{.kind = Kind::Text,
+       .label =
+           "You are about to re-build the entire store.  Please specify a target directory where the store should "
+           "be built and the store title.",
+       .lines = 2}}},
+    {{{.id = kDirectory,
+       .kind = Kind::Edit,
+       .label = "&Directory:",
+       .labelWidth = 78,
+       .options = Option::RightLabel,
+       .buttons = {{kBrowse, "B&rowse...", 82}}}},
+     4},
+    {{{.id = kTitle, .kind = Kind::Edit, .label = "Store &Title:", .labelWidth = 78, .options = Option::RightLabel}}},
+    {{{.id = kLog, .kind = Kind::ListBox, .label = "&Log:", .labelWidth = kLabelAbove, .lines = 9}}},
+    {{{.id = kLabel, .kind = Kind::Text, .width = 180, .options = Option::Plain},
+      {.id = kProgress, .kind = Kind::Progress, .label = "Progress", .labelWidth = kLabelUnseen}},
+     4},
+};
+constexpr FootButton kFoot[] = {{kBuild, "&Build", Option::Default}, {kCancel, "Cancel"}, {kHelp, "&Help"}};
 
 void enableBuild(Dialog& dialog) { dialog.enable(kBuild, !dialog.text(kDirectory).empty()); }
 
 }  // namespace
 
+constinit const DialogShape StoreBuildDialog::kShape{
+    .id = kWindow, .title = "Store Build", .form = Form::Modeless, .size = {490, 0}, .rows = kRows, .foot = kFoot};
+
 void StoreBuildDialog::opened(Dialog& dialog) {
   const StoreProject& project = generator_.program.project;
-  window_ = &dialog;
+  ModelessLogic::opened(dialog);
   generator_.log.buildWindow = this;
   dialog.limitText(kDirectory, kDirectoryLimit);
   dialog.setText(kDirectory, StartDirectory(project));
@@ -45,10 +68,10 @@ void StoreBuildDialog::pressed(Dialog& dialog, ControlId button) {
     case kBrowse:
       browse(dialog);
       break;
-    case control::kHelp:
-      generator_.program.view.openHelpPane(dialog::kStoreBuild);
+    case kHelp:
+      generator_.program.view.openHelpPane(store_build::kWindow);
       break;
-    case control::kCancel:
+    case kCancel:
       closeRequested(dialog);
       break;
     default:
@@ -62,8 +85,12 @@ void StoreBuildDialog::closeRequested(Dialog& dialog) {
   dialog.end(0);
 }
 
+void StoreBuildDialog::closed() {
+  leave();
+  ModelessLogic::closed();
+}
+
 void StoreBuildDialog::leave() {
-  window_ = nullptr;
   if (generator_.log.buildWindow == this) generator_.log.buildWindow = nullptr;
 }
 
@@ -81,26 +108,26 @@ void StoreBuildDialog::browse(Dialog& dialog) {
 // A build holds up all other painting, so what it shows is painted at once.
 
 void StoreBuildDialog::clearLog() {
-  window_->clearListBox(kLog);
+  window()->clearRows(kLog);
   rows_ = 0;
 }
 
 void StoreBuildDialog::addLogLine(std::string_view line) {
-  window_->addListBoxRow(kLog, line);
-  window_->showListBoxRow(kLog, rows_++);
-  window_->repaint(kLog);
+  window()->addRow(kLog, line);
+  window()->showRow(kLog, rows_++);
+  window()->repaint(kLog);
 }
 
 void StoreBuildDialog::stepProgress() {
-  window_->stepProgress(kProgress);
-  window_->repaint(kProgress);
+  window()->stepProgress(kProgress);
+  window()->repaint(kProgress);
 }
 
-void StoreBuildDialog::resetProgress() { window_->setProgress(kProgress, 0); }
+void StoreBuildDialog::resetProgress() { window()->setProgress(kProgress, 0); }
 
 void StoreBuildDialog::showLabel(std::string_view label) {
-  window_->setText(kLabel, label);
-  window_->repaint(kLabel);
+  window()->setText(kLabel, label);
+  window()->repaint(kLabel);
 }
 
 }  // namespace varlo

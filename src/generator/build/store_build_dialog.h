@@ -1,24 +1,41 @@
 // The logic of the window "Store Build": the user names directory and title, builds, and follows the log.
 #pragma once
 
+#include "core/forms/modeless_window.h"
 #include "generator/state/build_log.h"
-#include "platform/dialog.h"
 
 namespace varlo {
 
 struct Generator;
 
+namespace store_build {
+enum : ControlId {
+  kBuild = kOk,
+  kWindow = 1300,
+  kDirectory,
+  kBrowse,
+  kTitle,
+  kLog,
+  kProgress,
+  kLabel,
+};
+}
+
 // While the window is open it is where the generator logs to. There is one at a time.
-class StoreBuildDialog : public DialogLogic, public BuildWindow {
+class StoreBuildDialog : public ModelessLogic, public BuildWindow {
  public:
   explicit StoreBuildDialog(Generator& generator) : generator_(generator) {}
   ~StoreBuildDialog() override { leave(); }
   StoreBuildDialog(const StoreBuildDialog&) = delete;
   StoreBuildDialog& operator=(const StoreBuildDialog&) = delete;
 
+  static const DialogShape kShape;
+  [[nodiscard]] const DialogShape& shape() const override { return kShape; }
+
   void opened(Dialog& dialog) override;
   void notified(Dialog& dialog, const ControlEvent& event) override;
   void closeRequested(Dialog& dialog) override;
+  void closed() override;
 
   void clearLog() override;
   void addLogLine(std::string_view line) override;
@@ -33,8 +50,7 @@ class StoreBuildDialog : public DialogLogic, public BuildWindow {
   void leave();
 
   Generator& generator_;
-  Dialog* window_ = nullptr;  // while it is open
-  int rows_ = 0;              // of the log
+  int rows_ = 0;  // of the log
 };
 
 }  // namespace varlo

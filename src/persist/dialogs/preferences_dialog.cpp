@@ -1,15 +1,39 @@
 #include "persist/dialogs/preferences_dialog.h"
 
-#include "core/program/field_text.h"
+#include "core/forms/fields.h"
 #include "core/program/messages.h"
 #include "core/program/program.h"
 #include "core/text/number_text.h"
-#include "platform/control_ids.h"
 
 namespace varlo {
 namespace {
 
-using namespace control::preferences;
+using namespace preferences;
+
+constexpr Row kServerRows[] = {
+    {{{.id = kServer, .kind = Kind::Edit, .buttons = {{kBrowseServers, "Bro&wse >>", 82}}}}},
+};
+constexpr Row kDirectoryRows[] = {
+    {{{.id = kWebDirectory, .kind = Kind::Edit}}},
+};
+constexpr Row kRows[] = {
+    {{{.id = kBrowser, .kind = Kind::Combo, .label = "&Browser:", .labelWidth = 64}}},
+    {{{.id = kProxy, .kind = Kind::Edit, .label = "P&roxy:", .labelWidth = 64},
+      {.id = kPort, .kind = Kind::Edit, .label = "&Port:", .labelWidth = 42, .width = 116}}},
+    {{{.kind = Kind::Group, .label = "Varlo &Server", .rows = kServerRows}}, 4},
+    {{{.kind = Kind::Group, .label = "Web &Directory:", .rows = kDirectoryRows}}, 4},
+    {{{.kind = Kind::Text, .label = "Shall your store link to a directory of Varlo stores?"}}, 4},
+    {{{.id = kDirectoryLink, .kind = Kind::Check, .label = "&YES"}}},
+};
+constexpr FootButton kFoot[] = {{kOk, "OK", Option::Default}, {kCancel, "Cancel"}, {kHelp, "&Help"}};
+
+// The texts; the port is a number and the link a tick.
+constexpr Field<Program> kFields[] = {
+    {kBrowser, [](Program& program) -> Text& { return program.config.browser; }},
+    {kProxy, [](Program& program) -> Text& { return program.config.proxy; }},
+    {kServer, [](Program& program) -> Text& { return program.config.orderServer; }},
+    {kWebDirectory, [](Program& program) -> Text& { return program.project.webDir; }},
+};
 
 constexpr std::string_view kServersPage = "/varlo/servers.htm";
 
@@ -18,24 +42,24 @@ void enablePort(Dialog& dialog) { dialog.enable(kPort, !dialog.text(kProxy).empt
 
 }  // namespace
 
+constinit const DialogShape PreferencesDialog::kShape{
+    .id = kWindow, .title = "Varlo Preferences", .size = {420, 0}, .rows = kRows, .foot = kFoot};
+
 void PreferencesDialog::opened(Dialog& dialog) {
   filling_ = true;
   fill(dialog);
   filling_ = false;
-  dialog.focus(control::kOk);
-  program_.view.showHelp(dialog::kPreferences);
+  dialog.focus(kOk);
+  program_.view.showHelp(preferences::kWindow);
 }
 
 void PreferencesDialog::fill(Dialog& dialog) {
   const AppConfig& config = program_.config;
   for (const Text* known : {&config.browser, &config.browserNetscape, &config.browserExplorer}) {
-    if (known->isSet()) dialog.addComboRow(kBrowser, known->view());
+    if (known->isSet()) dialog.addRow(kBrowser, known->view());
   }
-  dialog.setText(kBrowser, config.browser.view());
-  dialog.setText(kProxy, config.proxy.view());
+  FillFields<Program>(dialog, kFields, program_);
   dialog.setText(kPort, IntToText(config.proxyPort));
-  dialog.setText(kServer, config.orderServer.view());
-  dialog.setText(kWebDirectory, program_.project.webDir.view());
   dialog.check(kDirectoryLink, config.directoryLink != 0);
   enablePort(dialog);
 }
@@ -66,15 +90,15 @@ void PreferencesDialog::edited(Dialog& dialog, ControlId control) {
 
 void PreferencesDialog::pressed(Dialog& dialog, ControlId button) {
   switch (button) {
-    case control::kOk:
+    case kOk:
       apply(dialog);
       dialog.end(1);
       break;
-    case control::kCancel:
+    case kCancel:
       dialog.end(0);
       break;
-    case control::kHelp:
-      program_.view.openHelpPane(dialog::kPreferences);
+    case kHelp:
+      program_.view.openHelpPane(preferences::kWindow);
       break;
     case kBrowseServers:
       program_.view.openInBrowser(std::string(kProductSite).append(kServersPage));
@@ -87,10 +111,7 @@ void PreferencesDialog::pressed(Dialog& dialog, ControlId button) {
 // Nothing is written to disk until the next save or exit.
 void PreferencesDialog::apply(Dialog& dialog) {
   AppConfig& config = program_.config;
-  config.browser = FieldText(dialog, kBrowser);
-  config.proxy = FieldText(dialog, kProxy);
-  config.orderServer = FieldText(dialog, kServer);
-  program_.project.webDir = FieldText(dialog, kWebDirectory);
+  ReadFields<Program>(dialog, kFields, program_);
   config.proxyPort = LeadingInt(dialog.text(kPort));
   config.directoryLink = dialog.isChecked(kDirectoryLink) ? 1 : 0;
   config.newWindow = 0;

@@ -8,9 +8,25 @@ namespace varlo {
 
 struct Program;
 
+namespace preferences {
+enum : ControlId {
+  kWindow = 1000,
+  kBrowser,
+  kProxy,
+  kPort,
+  kServer,
+  kBrowseServers,
+  kWebDirectory,
+  kDirectoryLink,
+};
+}
+
 class PreferencesDialog : public DialogLogic {
  public:
   explicit PreferencesDialog(Program& program) : program_(program) {}
+
+  static const DialogShape kShape;
+  [[nodiscard]] const DialogShape& shape() const override { return kShape; }
 
   void opened(Dialog& dialog) override;
   void notified(Dialog& dialog, const ControlEvent& event) override;

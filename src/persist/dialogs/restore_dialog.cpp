@@ -6,31 +6,43 @@
 #include "core/program/program.h"
 #include "core/text/number_text.h"
 #include "persist/life/project_life.h"
-#include "platform/control_ids.h"
 
 namespace varlo {
 namespace {
 
-using control::restore::kList;
+using namespace restore;
+
+constexpr Row kRows[] = {
+    {{{.id = kList,
+       .kind = Kind::List,
+       .label = "&Backups:",
+       .labelWidth = kLabelAbove,
+       .lines = 10,
+       .options = Option::FixedHeadings}}},
+};
+constexpr FootButton kFoot[] = {{kOk, "OK", Option::Default}, {kCancel, "Cancel"}, {kHelp, "&Help"}};
 
 constexpr std::array kColumns{ListColumn{"Backup Date/Time", 140}, ListColumn{"Size", 70}};
 
 }  // namespace
+
+constinit const DialogShape RestoreDialog::kShape{
+    .id = kWindow, .title = "Restore project from Backup", .size = {330, 0}, .rows = kRows, .foot = kFoot};
 
 void RestoreDialog::opened(Dialog& dialog) {
   backups_ = BackupListRead(program_);
   selectedBackup_ = nullptr;
   dialog.setColumns(kList, kColumns);
   dialog.setRowCount(kList, static_cast<int>(backups_.size()));
-  dialog.enable(control::kOk, false);
+  dialog.enable(kOk, false);
 }
 
 void RestoreDialog::notified(Dialog& dialog, const ControlEvent& event) {
-  if (event.control == kList && event.notice == Notice::RowSelected) select(dialog);
+  if (event.control == kList && event.notice == Notice::SelectionChanged) select(dialog);
   if (event.notice != Notice::Clicked) return;
-  if (event.control == control::kOk) restore(dialog);
-  if (event.control == control::kCancel) dialog.end(0);
-  if (event.control == control::kHelp) program_.view.openHelpPane(dialog::kRestore);
+  if (event.control == kOk) restore(dialog);
+  if (event.control == kCancel) dialog.end(0);
+  if (event.control == kHelp) program_.view.openHelpPane(restore::kWindow);
 }
 
 std::string RestoreDialog::cellText(ControlId /*list*/, int row, int column) {
@@ -42,8 +54,8 @@ std::string RestoreDialog::cellText(ControlId /*list*/, int row, int column) {
 void RestoreDialog::select(Dialog& dialog) {
   const int row = dialog.selectedRow(kList);
   selectedBackup_ = row == kNoRow ? nullptr : &backups_.at(static_cast<std::size_t>(row));
-  dialog.enable(control::kOk, selectedBackup_ != nullptr);
-  program_.view.showHelp(dialog::kRestore);
+  dialog.enable(kOk, selectedBackup_ != nullptr);
+  program_.view.showHelp(restore::kWindow);
 }
 
 void RestoreDialog::restore(Dialog& dialog) {

@@ -8,9 +8,16 @@
 
 namespace varlo {
 
+namespace restore {
+enum : ControlId { kWindow = 1200, kList };
+}
+
 class RestoreDialog : public DialogLogic {
  public:
   explicit RestoreDialog(Program& program) : program_(program) {}
+
+  static const DialogShape kShape;
+  [[nodiscard]] const DialogShape& shape() const override { return kShape; }
 
   void opened(Dialog& dialog) override;
   void notified(Dialog& dialog, const ControlEvent& event) override;

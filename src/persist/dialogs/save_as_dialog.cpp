@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "core/program/field_text.h"
+#include "core/forms/field_text.h"
 #include "core/program/messages.h"
 #include "core/program/program.h"
 #include "core/text/paths.h"
@@ -10,12 +10,20 @@
 #include "core/text/text_search.h"
 #include "persist/life/project_life.h"
 #include "persist/project/project_paths.h"
-#include "platform/control_ids.h"
 
 namespace varlo {
 namespace {
 
-using namespace control::save_as;
+using namespace save_as;
+
+constexpr Row kRows[] = {
+    {{{.id = kName,
+       .kind = Kind::Edit,
+       .label = "Enter a &New Project File Name:",
+       .labelWidth = kLabelAbove,
+       .buttons = {{kBrowse, "&Browse >", 82}}}}},
+};
+constexpr FootButton kFoot[] = {{kOk, "OK", Option::Default}, {kCancel, "Cancel"}};
 
 constexpr int kLongestName = 50;
 constexpr const char* kExtension = ".stp";
@@ -34,20 +42,23 @@ std::string_view extensionOf(std::string_view name) {
 
 }  // namespace
 
+constinit const DialogShape SaveAsDialog::kShape{
+    .id = kWindow, .title = "Save Project As", .size = {380, 0}, .rows = kRows, .foot = kFoot};
+
 void SaveAsDialog::opened(Dialog& dialog) {
   dialog.limitText(kName, kLongestName);
-  dialog.enable(control::kOk, false);
-  dialog.enable(control::kCancel, program_.project.projectFile.isSet());
+  dialog.enable(kOk, false);
+  dialog.enable(kCancel, program_.project.projectFile.isSet());
 }
 
 void SaveAsDialog::notified(Dialog& dialog, const ControlEvent& event) {
   if (event.control == kName && event.notice == Notice::Changed) {
-    dialog.enable(control::kOk, !dialog.text(kName).empty());
+    dialog.enable(kOk, !dialog.text(kName).empty());
   }
   if (event.notice != Notice::Clicked) return;
   if (event.control == kBrowse) browse(dialog);
-  if (event.control == control::kCancel) dialog.end(0);
-  if (event.control == control::kOk) {
+  if (event.control == kCancel) dialog.end(0);
+  if (event.control == kOk) {
     std::string name;
     TextCopyUntil(name, FieldText(dialog, kName).view(), ',');
     if (!name.empty() && saveAs(name)) dialog.end(1);

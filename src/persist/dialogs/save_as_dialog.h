@@ -10,9 +10,16 @@ namespace varlo {
 
 struct Program;
 
+namespace save_as {
+enum : ControlId { kWindow = 1100, kName, kBrowse };
+}
+
 class SaveAsDialog : public DialogLogic {
  public:
   explicit SaveAsDialog(Program& program) : program_(program) {}
+
+  static const DialogShape kShape;
+  [[nodiscard]] const DialogShape& shape() const override { return kShape; }
 
   void opened(Dialog& dialog) override;
   void notified(Dialog& dialog, const ControlEvent& event) override;

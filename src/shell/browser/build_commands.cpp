@@ -8,7 +8,6 @@
 #include "generator/build/preview_page.h"
 #include "generator/build/store_build_dialog.h"
 #include "persist/life/template_set.h"
-#include "platform/control_ids.h"
 #include "shell/browser/browser.h"
 #include "shell/browser/order_server.h"
 #include "shell/state/shell.h"
@@ -20,7 +19,7 @@ namespace {
 bool haveDirectory(Shell& shell) {
   if (shell.program.project.webDir.isSet()) return true;
   FirstBuildDialog logic(shell.generator);
-  return shell.program.screen.runDialog(dialog::kFirstBuild, logic) == 1;
+  return shell.program.screen.runDialog(logic) == 1;
 }
 
 }  // namespace
@@ -42,13 +41,7 @@ void previewCurrent(Shell& shell) {
 
 void openBuildWindow(Shell& shell) {
   if (shell.program.project.currentNode == nullptr || !requireServer(shell)) return;
-  const bool isOpen = shell.buildDialog != nullptr && shell.generator.log.buildWindow == shell.buildDialog.get();
-  if (isOpen && shell.buildWindow != nullptr) {
-    shell.buildWindow->bringToFront();
-    return;
-  }
-  shell.buildDialog = std::make_unique<StoreBuildDialog>(shell.generator);
-  shell.buildWindow = shell.program.screen.openDialog(dialog::kStoreBuild, *shell.buildDialog);
+  shell.buildWindow.open(shell.program.screen, shell.generator);
 }
 
 }  // namespace varlo

@@ -1,11 +1,9 @@
 #include "shell/state/focus.h"
 
-#include "platform/control_ids.h"
+#include "shell/state/page_logic.h"
 #include "shell/state/shell.h"
 
 namespace varlo {
-
-ControlId richEditOf(Tab tab) { return tab == Tab::Inventory ? control::inventory::kDescription : 0; }
 
 FocusPlace focusPlace(const Shell& shell) {
   if (shell.mainWindow == nullptr) return FocusPlace::Elsewhere;
@@ -16,8 +14,7 @@ FocusPlace focusPlace(const Shell& shell) {
     case Focus::Place::ItemList:
       return FocusPlace::ItemList;
     case Focus::Place::Page:
-      return focus.control != 0 && focus.control == richEditOf(shell.currentTab) ? FocusPlace::RichEdit
-                                                                                 : FocusPlace::Elsewhere;
+      return shell.pageLogic == nullptr ? FocusPlace::Elsewhere : shell.pageLogic->focusPlaceOf(focus.control);
     case Focus::Place::Elsewhere:
       break;
   }

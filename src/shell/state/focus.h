@@ -12,7 +12,4 @@ enum class FocusPlace { Elsewhere, Tree, ItemList, RichEdit, RegionList, Variabl
 
 [[nodiscard]] FocusPlace focusPlace(const Shell& shell);
 
-// The rich edit of a tab's page, 0 for none.
-[[nodiscard]] ControlId richEditOf(Tab tab);
-
 }  // namespace varlo

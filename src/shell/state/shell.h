@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "core/forms/modeless_window.h"
 #include "core/store/user_variable.h"
 #include "core/text/text.h"
 #include "generator/state/generator.h"
@@ -16,6 +17,7 @@ namespace varlo {
 
 struct Program;
 class StoreBuildDialog;
+struct PageLogic;
 
 // The tabs, in the order of the tab control.
 enum class Tab { Inventory, Template, Freight, OrderForm, Confirmation, Layout, Variables };
@@ -33,12 +35,11 @@ struct Shell {
   Program& program;
   BrowserSystem& browsers;
   Generator generator;
-  std::unique_ptr<StoreBuildDialog> buildDialog;  // kept until the next one is opened
-  Dialog* buildWindow = nullptr;                  // its window; valid while the generator logs to the dialog
+  ModelessWindow<StoreBuildDialog> buildWindow;
 
   MainWindow* mainWindow = nullptr;  // while it is open
   Dialog* tabPage = nullptr;         // the page of the open tab; null while it is swapped
-  std::unique_ptr<DialogLogic> pageLogic;
+  std::shared_ptr<PageLogic> pageLogic;
   Tab currentTab = Tab::Inventory;
 
   bool fromList = false;  // currentNode was picked in the item list

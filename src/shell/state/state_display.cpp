@@ -3,8 +3,10 @@
 #include "core/program/program.h"
 #include "core/program/scheme.h"
 #include "core/tree/store_tree.h"
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
+#include "shell/state/command_states.h"
 #include "shell/state/focus.h"
+#include "shell/state/page_logic.h"
 #include "shell/state/shell.h"
 
 namespace varlo {
@@ -56,43 +58,10 @@ constexpr CommandState<Tools> kTools[] = {
 
 using Buttons = CommandStates::Buttons;
 constexpr ControlState<Buttons> kButtons[] = {
-    {control::main::kPreview, &Buttons::preview},  {control::main::kProduct, &Buttons::productAndBuild},
-    {control::main::kCategory, &Buttons::holders}, {control::main::kShelf, &Buttons::holders},
-    {control::main::kList, &Buttons::holders},     {control::main::kBuild, &Buttons::productAndBuild},
+    {main_window::kPreview, &Buttons::preview},  {main_window::kProduct, &Buttons::productAndBuild},
+    {main_window::kCategory, &Buttons::holders}, {main_window::kShelf, &Buttons::holders},
+    {main_window::kList, &Buttons::holders},     {main_window::kBuild, &Buttons::productAndBuild},
 };
-
-using Page = CommandStates::Page;
-namespace form = control::inventory;
-// The buttons beside the image fields follow what stands in these; the form sees to them.
-constexpr ControlState<Page> kInventoryFields[] = {
-    {form::kTitle, &Page::fields},
-    {form::kPageTitle, &Page::fields},
-    {form::kFileName, &Page::ownPage},
-    {form::kProductCode, &Page::fields},
-    {form::kMetaKeywords, &Page::fields},
-    {form::kMetaDescription, &Page::fields},
-    {form::kImage, &Page::fields},
-    {form::kImageLink, &Page::imageLink},
-    {form::kTemplate, &Page::ownPage},
-    {form::kCost, &Page::fields},
-    {form::kWeight, &Page::fields},
-    {form::kFreight, &Page::fields},
-    {form::kTax, &Page::fields},
-    {form::kDescription, &Page::fields},
-    {form::kKeywordManager, &Page::fields},
-    {form::kChooseImage, &Page::fields},
-    {form::kPreview, &Page::fields},
-    {form::kBuild, &Page::fields},
-};
-constexpr int kCustomFields = 6;
-
-void showOnInventoryPage(Dialog& page, const Page& states) {
-  for (const auto& [control, state] : kInventoryFields) page.enable(control, states.*state);
-  for (int i = 0; i < kCustomFields; ++i) {
-    page.enable(form::kLabel1 + i, states.fields);
-    page.enable(form::kValue1 + i, states.fields);
-  }
-}
 
 void gatherNode(const StoreProject& project, CommandFacts& facts) {
   const StoreNode* node = project.currentNode;
@@ -105,8 +74,8 @@ void gatherNode(const StoreProject& project, CommandFacts& facts) {
 
 // Asking for the selection or the clipboard costs, so it is done where the answer matters.
 void gatherRichEdit(const Shell& shell, CommandFacts& facts) {
-  if (facts.focus != FocusPlace::RichEdit || shell.tabPage == nullptr) return;
-  facts.textSelected = shell.tabPage->hasSelection(richEditOf(shell.currentTab));
+  if (facts.focus != FocusPlace::RichEdit || shell.tabPage == nullptr || shell.pageLogic == nullptr) return;
+  facts.textSelected = shell.tabPage->hasSelection(shell.pageLogic->richEdit());
   facts.textToPaste = shell.program.clipboard.offersText();
 }
 
@@ -138,7 +107,7 @@ void refreshCommandStates(Shell& shell) {
   for (const auto& [command, state] : kTools) window.enableTool(command, states.tools.*state);
   for (const auto& [control, state] : kButtons) window.controls().enable(control, states.buttons.*state);
   if (shell.tabPage == nullptr) return;
-  if (shell.currentTab == Tab::Inventory) showOnInventoryPage(*shell.tabPage, states.page);
+  if (shell.pageLogic != nullptr) shell.pageLogic->showStates(*shell.tabPage, states.page);
 }
 
 }  // namespace varlo

@@ -2,7 +2,6 @@
 // reaches the model at once.
 #pragma once
 
-#include "core/store/store_node.h"
 #include "platform/dialog.h"
 
 namespace varlo {
@@ -17,10 +16,6 @@ void readForm(Shell& shell);
 
 // Every page passes each notification of its fields here first. True when it acted.
 bool onFieldCommand(Shell& shell, const ControlEvent& event);
-
-// Whether any field of the form differs, byte by byte; absent counts as empty. A missing node differs from
-// nothing.
-[[nodiscard]] bool formDiffers(const StoreNode* node, const StoreNode* scratch);
 
 // Deletes what is neither a decimal digit nor "." from a field, and then puts the caret at its end.
 void digitsOnly(Dialog& page, ControlId control);

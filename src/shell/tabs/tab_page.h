@@ -1,13 +1,13 @@
-// TabPage: the logic that the pages of all tabs share. By itself it shows the frame of a page.
+// TabPage: the logic that the pages of all tabs share.
 #pragma once
 
-#include "platform/dialog.h"
+#include "shell/state/page_logic.h"
 
 namespace varlo {
 
 struct Shell;
 
-class TabPage : public DialogLogic {
+class TabPage : public PageLogic {
  public:
   explicit TabPage(Shell& shell) : shell_(shell) {}
 

@@ -3,28 +3,42 @@
 #include <array>
 
 #include "core/program/program.h"
-#include "platform/control_ids.h"
 #include "shell/state/state_display.h"
 #include "shell/tabs/inventory_page.h"
 
 namespace varlo {
 
-const TabTraits& traitsOf(Tab tab) {
-  static constexpr std::array<TabTraits, kTabs> kTraits{{
-      {"Inventory", dialog::kInventoryPage},
-      {"Template", dialog::kTemplatePage},
-      {"Freight", dialog::kFreightPage},
-      {"Order Form", dialog::kOrderFormPage},
-      {"Confirmation", dialog::kConfirmationPage},
-      {"Layout", dialog::kLayoutPage},
-      {"Variables", dialog::kVariablesPage},
-  }};
-  return kTraits[static_cast<std::size_t>(tab)];
+namespace {
+
+template <typename Page>
+std::shared_ptr<TabPage> make(Shell& shell) {
+  return std::make_shared<Page>(shell);
 }
 
-std::unique_ptr<DialogLogic> makePage(Shell& shell, Tab tab) {
-  if (tab == Tab::Inventory) return std::make_unique<InventoryPage>(shell);
-  return std::make_unique<TabPage>(shell);
+// The frame of a page that is still to come.
+template <ControlId number>
+class EmptyPage : public TabPage {
+ public:
+  using TabPage::TabPage;
+  [[nodiscard]] const DialogShape& shape() const override {
+    static constexpr DialogShape kShape{.id = number, .form = Form::Page};
+    return kShape;
+  }
+};
+
+}  // namespace
+
+const TabTraits& traitsOf(Tab tab) {
+  static constexpr std::array<TabTraits, kTabs> kTraits{{
+      {"Inventory", make<InventoryPage>},
+      {"Template", make<EmptyPage<2100>>},
+      {"Freight", make<EmptyPage<2200>>},
+      {"Order Form", make<EmptyPage<2300>>},
+      {"Confirmation", make<EmptyPage<2400>>},
+      {"Layout", make<EmptyPage<2500>>},
+      {"Variables", make<EmptyPage<2600>>},
+  }};
+  return kTraits[static_cast<std::size_t>(tab)];
 }
 
 void switchTab(Shell& shell, Tab tab) {
@@ -42,9 +56,8 @@ void switchTab(Shell& shell, Tab tab) {
 // The page fills itself while it opens, so it makes itself known to the shell.
 void openTabPage(Shell& shell) {
   if (shell.mainWindow == nullptr) return;
-  shell.pageLogic = makePage(shell, shell.currentTab);
-  if (shell.pageLogic == nullptr) return;
-  shell.tabPage = shell.mainWindow->openPage(traitsOf(shell.currentTab).dialogId, *shell.pageLogic);
+  shell.pageLogic = traitsOf(shell.currentTab).makePage(shell);
+  shell.tabPage = shell.mainWindow->openPage(shell.pageLogic);
 }
 
 // While the page goes, its last notices find none.

@@ -5,18 +5,16 @@
 #include <string_view>
 
 #include "shell/state/shell.h"
+#include "shell/tabs/tab_page.h"
 
 namespace varlo {
 
 struct TabTraits {
   std::string_view label;
-  int dialogId = 0;
+  std::shared_ptr<TabPage> (*makePage)(Shell& shell) = nullptr;
 };
 
 [[nodiscard]] const TabTraits& traitsOf(Tab tab);
-
-// The logic of a tab's page.
-[[nodiscard]] std::unique_ptr<DialogLogic> makePage(Shell& shell, Tab tab);
 
 // Closes the page and opens that of `tab`; nothing for the tab that is open.
 void switchTab(Shell& shell, Tab tab);

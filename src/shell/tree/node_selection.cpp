@@ -1,11 +1,13 @@
 #include "shell/tree/node_selection.h"
 
 #include "core/program/program.h"
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
+#include "shell/state/command_states.h"
 #include "shell/state/shell.h"
 #include "shell/state/state_display.h"
 #include "shell/tabs/form.h"
 #include "shell/tree/item_list.h"
+#include "shell/tree/popup_menus.h"
 #include "shell/tree/tree_items.h"
 
 namespace varlo {
@@ -24,16 +26,16 @@ void takeRow(Shell& shell, StoreNode& node) {
   shell.program.project.currentNode = &node;
   shell.fromList = true;
   loadForm(shell);
-  shell.program.view.showHelp(control::main::kItemList);
+  shell.program.view.showHelp(main_window::kItemList);
 }
 
-void showTreeHelp(Shell& shell) { shell.program.view.showHelp(control::main::kTree); }
+void showTreeHelp(Shell& shell) { shell.program.view.showHelp(main_window::kTree); }
 
 }  // namespace
 
 void selectCurrent(Shell& shell, StoreNode* node) {
   if (node == nullptr) {
-    if (shell.mainWindow != nullptr) shell.mainWindow->controls().enable(control::main::kPreview, false);
+    if (shell.mainWindow != nullptr) shell.mainWindow->controls().enable(main_window::kPreview, false);
     return;
   }
   StoreProject& project = shell.program.project;

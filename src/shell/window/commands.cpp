@@ -11,11 +11,11 @@
 #include "persist/dialogs/save_as_dialog.h"
 #include "persist/life/project_life.h"
 #include "persist/project/project_merge.h"
-#include "platform/control_ids.h"
 #include "shell/browser/browser.h"
 #include "shell/browser/build_commands.h"
 #include "shell/browser/order_server.h"
 #include "shell/browser/upgrade.h"
+#include "shell/state/command_states.h"
 #include "shell/state/shell.h"
 #include "shell/state/state_display.h"
 #include "shell/tabs/form.h"
@@ -38,10 +38,10 @@ void openStore(Shell& shell) {
 
 void save(Shell& shell) { ProjectSaveNow(shell.program); }
 
-template <typename Logic, int dialogId>
+template <typename Logic>
 void runDialog(Shell& shell) {
   Logic logic(shell.program);
-  shell.program.screen.runDialog(dialogId, logic);
+  shell.program.screen.runDialog(logic);
   refreshCommandStates(shell);
 }
 
@@ -98,8 +98,8 @@ struct CommandRow {
 constexpr CommandRow kCommands[] = {
     {Command::OpenStore, openStore},
     {Command::Save, save},
-    {Command::SaveAs, runDialog<SaveAsDialog, dialog::kSaveAs>},
-    {Command::RestoreBackup, runDialog<RestoreDialog, dialog::kRestore>},
+    {Command::SaveAs, runDialog<SaveAsDialog>},
+    {Command::RestoreBackup, runDialog<RestoreDialog>},
     {Command::Merge, merge},
     {Command::Upgrade, launchUpgrade},
     {Command::Quit, quit},
@@ -119,7 +119,7 @@ constexpr CommandRow kCommands[] = {
     {Command::ToggleToolbar, toggleView<kViewToolbar, Command::ToggleToolbar>},
     {Command::ToggleButtons, toggleView<kViewButtons, Command::ToggleButtons>},
 
-    {Command::Preferences, runDialog<PreferencesDialog, dialog::kPreferences>},
+    {Command::Preferences, runDialog<PreferencesDialog>},
     {Command::PreviewPage, previewCurrent},
     {Command::BuildStore, openBuildWindow},
     {Command::ImportFreight, importFreight},

@@ -2,6 +2,7 @@
 
 #include "core/program/program.h"
 #include "shell/state/focus.h"
+#include "shell/state/page_logic.h"
 #include "shell/state/shell.h"
 #include "shell/tree/item_list.h"
 #include "shell/tree/node_changes.h"
@@ -14,8 +15,9 @@ using PageAction = void (*)(Dialog& page, ControlId richEdit);
 // Runs `action` on the rich edit that has the focus. False when none has. Without a current node the edit is grey,
 // and keeps a focus that it had: what was put there would belong to nothing.
 bool onRichEdit(Shell& shell, PageAction action) {
-  if (shell.tabPage == nullptr || focusPlace(shell) != FocusPlace::RichEdit) return false;
-  if (shell.program.project.currentNode != nullptr) action(*shell.tabPage, richEditOf(shell.currentTab));
+  if (shell.tabPage == nullptr || shell.pageLogic == nullptr || focusPlace(shell) != FocusPlace::RichEdit)
+    return false;
+  if (shell.program.project.currentNode != nullptr) action(*shell.tabPage, shell.pageLogic->richEdit());
   return true;
 }
 

@@ -4,13 +4,13 @@
 
 #include "core/program/messages.h"
 #include "core/program/program.h"
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
 #include "shell/state/shell.h"
 
 namespace varlo {
 namespace {
 
-namespace ids = control::main;
+namespace ids = main_window;
 
 // In pixels of an ordinary screen.
 constexpr int kToolbarHeight = 32;
@@ -26,6 +26,29 @@ constexpr int kButtonWidth = 64;
 constexpr int kButtonHeight = 23;
 constexpr int kButtonsGap = 4;  // between tree and buttons
 constexpr int kGroupGap = 10;   // below Preview, above Build
+
+constexpr int kLeftWidth = 384;  // left edge of the tabs, where the window is wide enough
+constexpr Size kInside{930, 611};
+
+constexpr Cell button(ControlId id, std::string_view label) {
+  return Cell{.id = id, .kind = Kind::Button, .label = label};
+}
+constexpr Cell control(ControlId id, Kind kind, std::string_view name = {}) {
+  return Cell{.id = id, .kind = kind, .label = name, .labelWidth = kLabelUnseen, .options = Option::ManyRows};
+}
+
+constexpr Row kRows[] = {
+    {{control(ids::kTree, Kind::Tree, "Store tree")}},
+    {{button(ids::kPreview, "Preview")}},
+    {{button(ids::kProduct, "Product")}},
+    {{button(ids::kCategory, "Category")}},
+    {{button(ids::kShelf, "Shelf")}},
+    {{button(ids::kList, "List")}},
+    {{button(ids::kBuild, "Build")}},
+    {{control(ids::kItemList, Kind::ItemList, "Items")}},
+    {{control(ids::kTabs, Kind::Tabs)}},
+    {{control(ids::kStatusBar, Kind::StatusBar)}},
+};
 
 struct ColumnButton {
   ControlId control = 0;
@@ -106,6 +129,16 @@ class Layout {
 
 }  // namespace
 
+const DialogShape& MainWindowShape() {
+  static constexpr DialogShape kShape{.id = ids::kWindow,
+                                      .title = "Varlo PRO",
+                                      .form = Form::Main,
+                                      .size = kInside,
+                                      .resizable = true,
+                                      .rows = kRows};
+  return kShape;
+}
+
 MainLayout layOutMainWindow(const LayoutFacts& facts) { return Layout(facts).make(); }
 
 LayoutFacts layoutFactsOf(const Shell& shell) {
@@ -114,7 +147,7 @@ LayoutFacts layoutFactsOf(const Shell& shell) {
   const std::int32_t flags = shell.program.config.viewFlags;
   return {.client = window.clientSize(),
           .rowHeight = window.rowHeight(),
-          .leftWidth = window.leftWidth(),
+          .leftWidth = window.scaled(kLeftWidth),
           .scale = window.scaled(100),
           .toolbarShown = (flags & kViewToolbar) != 0,
           .buttonsShown = (flags & kViewButtons) != 0};

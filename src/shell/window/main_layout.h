@@ -10,6 +10,9 @@ namespace varlo {
 
 struct Shell;
 
+// What is in the main window, in the order of the Tab key; the page of the open tab comes before the tabs.
+[[nodiscard]] const DialogShape& MainWindowShape();
+
 // What the layout depends on; all in pixels of the screen but `scale`, which is pixels for each pixel of an
 // ordinary screen in percent.
 struct LayoutFacts {

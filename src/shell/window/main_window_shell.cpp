@@ -16,6 +16,8 @@
 
 namespace varlo {
 
+const DialogShape& MainWindowShell::shape() const { return MainWindowShape(); }
+
 void MainWindowShell::opened(MainWindow& window) { setUpMainWindow(shell_, window); }
 void MainWindowShell::command(Command command) { dispatchCommand(shell_, command); }
 void MainWindowShell::tabSelected(int tab) {

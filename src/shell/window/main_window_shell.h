@@ -10,6 +10,7 @@ class MainWindowShell : public MainWindowLogic {
  public:
   explicit MainWindowShell(Shell& shell) : shell_(shell) {}
 
+  [[nodiscard]] const DialogShape& shape() const override;
   void opened(MainWindow& window) override;
   void command(Command command) override;
   void tabSelected(int tab) override;

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/control_ids.h"
 #include "tests/support/fake_window.h"
 #include "tests/support/test_shop.h"
 
@@ -10,7 +9,7 @@ namespace varlo {
 namespace {
 
 using namespace test;
-using namespace control::first_build;
+using namespace first_build;
 using testing::ElementsAre;
 
 class FirstBuild : public testing::Test {
@@ -30,21 +29,21 @@ TEST_F(FirstBuild, StartsAsTheStoreBuildWindowDoes) {
   EXPECT_EQ(window.text(kTitle), "Toys");
   EXPECT_EQ(window.limitOf(kDirectory), 512);
   EXPECT_EQ(window.limitOf(kTitle), 0) << "no limit was set";
-  EXPECT_TRUE(window.isEnabled(control::kOk));
+  EXPECT_TRUE(window.isEnabled(kOk));
 }
 
 TEST_F(FirstBuild, OkIsOfferedOnlyWithADirectory) {
   window.type(kDirectory, "");
-  EXPECT_FALSE(window.isEnabled(control::kOk));
+  EXPECT_FALSE(window.isEnabled(kOk));
   window.type(kDirectory, "x");
-  EXPECT_TRUE(window.isEnabled(control::kOk));
+  EXPECT_TRUE(window.isEnabled(kOk));
 }
 
 TEST_F(FirstBuild, OkMakesTheDirectoryAndKeepsItWithItsTrailingBackSlash) {
   t.generator.log.stopRequested = true;
   window.type(kDirectory, "C:\\a\\b\\");
   window.type(kTitle, "New");
-  window.press(control::kOk);
+  window.press(kOk);
   EXPECT_STREQ(t.project().webDir.get(), "C:\\a\\b\\");
   EXPECT_STREQ(t.project().storeTitle.get(), "New");
   EXPECT_EQ(t.files.makeFolder("C:\\a\\b"), MakeFolderResult::Exists);
@@ -57,7 +56,7 @@ TEST_F(FirstBuild, ABadDirectoryIsToldAndTheDialogStays) {
   for (const char* directory : {"C:/a", "C:\\a,b"}) {
     t.screen.boxes.clear();
     window.type(kDirectory, directory);
-    window.press(control::kOk);
+    window.press(kOk);
     EXPECT_THAT(t.screen.boxes,
                 ElementsAre(ShownBox{"Invalid Directory Name.  Must not include forward slash characters or commas.",
                                      "Error", Buttons::Ok, Icon::Stop}));
@@ -69,7 +68,7 @@ TEST_F(FirstBuild, ABadDirectoryIsToldAndTheDialogStays) {
 TEST_F(FirstBuild, ADirectoryThatCannotBeMadeIsToldAndTheDialogStays) {
   t.files.shallFail = [](const std::string&) { return true; };
   window.type(kDirectory, "C:\\a");
-  window.press(control::kOk);
+  window.press(kOk);
   ASSERT_EQ(t.screen.boxes.size(), 1U);
   EXPECT_EQ(t.screen.boxes[0].text, "Unable to create directory 'C:\\a'");
   EXPECT_TRUE(window.isOpen());
@@ -78,7 +77,7 @@ TEST_F(FirstBuild, ADirectoryThatCannotBeMadeIsToldAndTheDialogStays) {
 
 TEST_F(FirstBuild, CancelRaisesTheStopFlagAndChangesNothing) {
   window.type(kTitle, "New");
-  window.press(control::kCancel);
+  window.press(kCancel);
   EXPECT_TRUE(t.generator.log.stopRequested);
   EXPECT_FALSE(window.isOpen());
   EXPECT_EQ(window.result(), 0);

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/control_ids.h"
 #include "tests/support/fake_window.h"
 #include "tests/support/project_text.h"
 #include "tests/support/test_shop.h"
@@ -13,7 +12,7 @@ namespace varlo {
 namespace {
 
 using namespace test;
-using namespace control::store_build;
+using namespace store_build;
 using testing::ElementsAre;
 
 class StoreBuild : public testing::Test {
@@ -29,7 +28,7 @@ TEST_F(StoreBuild, OpensWithTheProjectsWebFolderWhateverWebDirHolds) {
   window.open();
   EXPECT_EQ(window.text(kDirectory), "C:\\Varlo\\Projects\\Shop\\Web\\");
   EXPECT_EQ(window.text(kTitle), "Toys");
-  EXPECT_THAT(window.listBoxRows(kLog), ElementsAre("Varlo PRO v1.07.001 - Ready"));
+  EXPECT_THAT(window.rows(kLog), ElementsAre("Varlo PRO v1.07.001 - Ready"));
   EXPECT_TRUE(window.isEnabled(kBuild));
 }
 
@@ -79,9 +78,9 @@ TEST_F(StoreBuild, BuildsIntoTheDirectoryOfTheFieldAndKeepsTheLog) {
   window.type(kDirectory, "C:\\Web");
   window.type(kTitle, "New");
   window.press(kBuild);
-  EXPECT_THAT(window.listBoxRows(kLog),
+  EXPECT_THAT(window.rows(kLog),
               ElementsAre("Varlo PRO v1.07.001 - Ready", "", "", "Store Build Complete. (0 errors, 0 warnings)"));
-  EXPECT_EQ(window.shownListBoxRow(kLog), 3);
+  EXPECT_EQ(window.shownRow(kLog), 3);
   EXPECT_GE(window.repaints(kLog), 5) << "each line is painted at once";
   EXPECT_STREQ(t.project().storeTitle.get(), "New");
   EXPECT_TRUE(t.files.content("C:\\Web\\index.html").has_value());
@@ -92,8 +91,8 @@ TEST_F(StoreBuild, CanBuildAgainWithAFreshLog) {
   window.open();
   window.press(kBuild);
   window.press(kBuild);
-  EXPECT_EQ(window.listBoxRows(kLog).size(), 4U);
-  EXPECT_EQ(window.shownListBoxRow(kLog), 3);
+  EXPECT_EQ(window.rows(kLog).size(), 4U);
+  EXPECT_EQ(window.shownRow(kLog), 3);
 }
 
 TEST_F(StoreBuild, ShowsThePageInWorkAndStepsTheBar) {
@@ -129,14 +128,14 @@ TEST_F(StoreBuild, BrowsePutsTheChosenFolderIntoTheField) {
 
 TEST_F(StoreBuild, HelpOpensThePaneOnThisWindow) {
   window.open();
-  window.press(control::kHelp);
+  window.press(kHelp);
   EXPECT_THAT(t.view.calls, ElementsAre("openHelpPane 1300"));
 }
 
 TEST_F(StoreBuild, CancelRaisesTheStopFlagAndClosesTheLog) {
   window.open();
   EXPECT_EQ(t.generator.log.buildWindow, &logic);
-  window.press(control::kCancel);
+  window.press(kCancel);
   EXPECT_TRUE(t.generator.log.stopRequested);
   EXPECT_EQ(t.generator.log.buildWindow, nullptr);
   EXPECT_FALSE(window.isOpen());
@@ -162,10 +161,10 @@ TEST_F(StoreBuild, AWindowThatIsGoneIsNotLoggedTo) {
 
 TEST_F(StoreBuild, OpensAgainAfterItWasClosed) {
   window.open();
-  window.press(control::kCancel);
+  window.press(kCancel);
   FakeWindow again(logic);
   again.open();
-  EXPECT_THAT(again.listBoxRows(kLog), ElementsAre("Varlo PRO v1.07.001 - Ready"));
+  EXPECT_THAT(again.rows(kLog), ElementsAre("Varlo PRO v1.07.001 - Ready"));
   again.press(kBuild);
   EXPECT_FALSE(t.generator.log.stopRequested);
 }

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/control_ids.h"
 #include "tests/support/fake_window.h"
 #include "tests/support/test_program.h"
 
@@ -11,7 +10,7 @@ namespace varlo {
 namespace {
 
 using namespace test;
-using namespace control::preferences;
+using namespace preferences;
 using testing::Contains;
 using testing::ElementsAre;
 
@@ -36,14 +35,14 @@ TEST_F(PreferencesDialogTest, OpensFilledFromTheDataWithTheFocusOnOk) {
   config.orderServer.assign("s");
   t.project().webDir.assign("w");
   window.open();
-  EXPECT_THAT(window.comboRows(kBrowser), ElementsAre("b.exe", "e.exe"));
+  EXPECT_THAT(window.rows(kBrowser), ElementsAre("b.exe", "e.exe"));
   EXPECT_EQ(window.text(kBrowser), "b.exe");
   EXPECT_EQ(window.text(kProxy), "p");
   EXPECT_EQ(window.text(kPort), "-5");
   EXPECT_EQ(window.text(kServer), "s");
   EXPECT_EQ(window.text(kWebDirectory), "w");
   EXPECT_TRUE(window.isChecked(kDirectoryLink));
-  EXPECT_EQ(window.focused(), control::kOk);
+  EXPECT_EQ(window.focused(), kOk);
   EXPECT_EQ(t.view.calls.back(), "showHelp 1000");
 }
 
@@ -71,15 +70,16 @@ TEST_F(PreferencesDialogTest, AProxyFromTheDataEnablesThePortAtOnce) {
 
 TEST_F(PreferencesDialogTest, AnyEditStoresTheFormAndMarksTheProjectEvenBeforeCancel) {
   for (const ControlId control : {kBrowser, kProxy, kPort, kServer, kWebDirectory}) {
+    t.config().proxy.assign(control == kPort ? "p" : nullptr);  // which enables the port
     open();
     t.project().dirty = 0;
     window.type(control, "x");
     EXPECT_THAT(t.view.calls, ElementsAre("storeForm", "refreshCommandStates"));
     EXPECT_EQ(t.project().dirty, 1);
   }
-  window.press(control::kCancel);
+  window.press(kCancel);
   EXPECT_EQ(t.project().dirty, 1);
-  EXPECT_TRUE(t.config().proxy.isNull());
+  EXPECT_TRUE(t.config().orderServer.isNull());
 }
 
 TEST_F(PreferencesDialogTest, GainingTheFocusShowsTheFieldsHelp) {
@@ -102,7 +102,7 @@ TEST_F(PreferencesDialogTest, OkReplacesEveryFieldEvenByAnEmptyText) {
   window.type(kServer, "");
   window.type(kWebDirectory, "C:\\web");
   window.check(kDirectoryLink, false);
-  window.press(control::kOk);
+  window.press(kOk);
   EXPECT_STREQ(config.browser.get(), "");
   EXPECT_STREQ(config.proxy.get(), "proxy");
   EXPECT_EQ(config.proxyPort, -80);
@@ -116,16 +116,17 @@ TEST_F(PreferencesDialogTest, OkReplacesEveryFieldEvenByAnEmptyText) {
 
 TEST_F(PreferencesDialogTest, APortThatIsNoNumberIsZero) {
   t.config().proxyPort = 80;
+  t.config().proxy.assign("p");
   open();
   window.type(kPort, "none");
-  window.press(control::kOk);
+  window.press(kOk);
   EXPECT_EQ(t.config().proxyPort, 0);
 }
 
 TEST_F(PreferencesDialogTest, AFieldIsReadUpToTwentyThousandBytes) {
   open();
   window.type(kWebDirectory, std::string(20001, 'x'));
-  window.press(control::kOk);
+  window.press(kOk);
   EXPECT_EQ(t.project().webDir.view().size(), 20000U);
 }
 
@@ -144,7 +145,7 @@ TEST_F(PreferencesDialogTest, CancelAndTheCloseBoxChangeNothing) {
 TEST_F(PreferencesDialogTest, BrowseShowsThePageOfServersAndHelpThePane) {
   open();
   window.press(kBrowseServers);
-  window.press(control::kHelp);
+  window.press(kHelp);
   EXPECT_THAT(t.view.calls,
               ElementsAre("openInBrowser https://www.varlo.example/varlo/servers.htm", "openHelpPane 1000"));
   EXPECT_TRUE(window.isOpen());

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/control_ids.h"
 #include "tests/support/fake_window.h"
 #include "tests/support/project_text.h"
 #include "tests/support/tree.h"
@@ -12,7 +11,7 @@ namespace varlo {
 namespace {
 
 using namespace test;
-using control::restore::kList;
+using restore::kList;
 
 class RestoreDialogTest : public testing::Test {
  protected:
@@ -45,12 +44,12 @@ TEST_F(RestoreDialogTest, ListsEveryFileWithItsTimeAndSize) {
 }
 
 TEST_F(RestoreDialogTest, OkIsEnabledWhileARowIsSelected) {
-  EXPECT_FALSE(window.isEnabled(control::kOk));
+  EXPECT_FALSE(window.isEnabled(kOk));
   window.pickRow(kList, 1);
-  EXPECT_TRUE(window.isEnabled(control::kOk));
+  EXPECT_TRUE(window.isEnabled(kOk));
   EXPECT_THAT(t.view.calls, testing::ElementsAre("showHelp 1200"));
   window.pickRow(kList, kNoRow);
-  EXPECT_FALSE(window.isEnabled(control::kOk));
+  EXPECT_FALSE(window.isEnabled(kOk));
 }
 
 TEST_F(RestoreDialogTest, YesBringsTheBackupBackAndLosesUnsavedChanges) {
@@ -58,7 +57,7 @@ TEST_F(RestoreDialogTest, YesBringsTheBackupBackAndLosesUnsavedChanges) {
   t.project().dirty = 1;
   t.screen.answers = {Answer::Yes};
   window.pickRow(kList, 1);
-  window.press(control::kOk);
+  window.press(kOk);
   ASSERT_EQ(t.screen.boxes.size(), 1U);
   EXPECT_EQ(
       t.screen.boxes[0].text,
@@ -77,15 +76,15 @@ TEST_F(RestoreDialogTest, YesBringsTheBackupBackAndLosesUnsavedChanges) {
 TEST_F(RestoreDialogTest, ABackupWithoutATimeRestoresLikeAnyOther) {
   t.screen.answers = {Answer::Yes};
   window.pickRow(kList, 2);
-  window.press(control::kOk);
+  window.press(kOk);
   EXPECT_EQ(TreeText(t.project()), "Untimed");
 }
 
 TEST_F(RestoreDialogTest, NoAndCancelStayInTheDialog) {
   t.screen.answers = {Answer::No, Answer::Cancel};
   window.pickRow(kList, 1);
-  window.press(control::kOk);
-  window.press(control::kOk);
+  window.press(kOk);
+  window.press(kOk);
   EXPECT_TRUE(window.isOpen());
   EXPECT_EQ(TreeText(t.project()), "Now");
 }
@@ -94,7 +93,7 @@ TEST_F(RestoreDialogTest, AFailedCopyGoesUnnoticedAndShowsTheOldFileAgain) {
   t.screen.answers = {Answer::Yes};
   window.pickRow(kList, 1);
   t.files.shallFail = [](const std::string& operation) { return operation.starts_with("copy"); };
-  window.press(control::kOk);
+  window.press(kOk);
   EXPECT_EQ(t.screen.boxes.size(), 1U);
   EXPECT_EQ(TreeText(t.project()), "Now");
   EXPECT_FALSE(window.isOpen());
@@ -103,15 +102,15 @@ TEST_F(RestoreDialogTest, AFailedCopyGoesUnnoticedAndShowsTheOldFileAgain) {
 TEST_F(RestoreDialogTest, WithoutAProjectFileOkDoesNothing) {
   window.pickRow(kList, 1);
   t.project().projectFile.release();
-  window.press(control::kOk);
+  window.press(kOk);
   EXPECT_TRUE(t.screen.boxes.empty());
   EXPECT_TRUE(window.isOpen());
 }
 
 TEST_F(RestoreDialogTest, CancelEndsAndHelpOpensThePane) {
-  window.press(control::kHelp);
+  window.press(kHelp);
   EXPECT_EQ(t.view.calls.back(), "openHelpPane 1200");
-  window.press(control::kCancel);
+  window.press(kCancel);
   EXPECT_FALSE(window.isOpen());
 }
 

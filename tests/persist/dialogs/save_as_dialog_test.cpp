@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "core/program/messages.h"
 #include "core/program/scheme.h"
-#include "platform/control_ids.h"
 #include "tests/support/fake_window.h"
 #include "tests/support/project_text.h"
 
@@ -13,7 +13,7 @@ namespace {
 
 using namespace test;
 using testing::ElementsAre;
-using namespace control::save_as;
+using namespace save_as;
 
 class SaveAsDialogTest : public testing::Test {
  protected:
@@ -30,30 +30,30 @@ class SaveAsDialogTest : public testing::Test {
   }
   void saveAs(std::string_view name) {
     window.type(kName, name);
-    window.press(control::kOk);
+    window.press(kOk);
   }
   std::string_view projectFile() { return t.project().projectFile.view(); }
 };
 
 TEST_F(SaveAsDialogTest, OkIsEnabledExactlyWhileThereIsAName) {
-  EXPECT_FALSE(window.isEnabled(control::kOk));
-  EXPECT_TRUE(window.isEnabled(control::kCancel));
+  EXPECT_FALSE(window.isEnabled(kOk));
+  EXPECT_TRUE(window.isEnabled(kCancel));
   EXPECT_EQ(window.limitOf(kName), 50);
   window.type(kName, "a");
-  EXPECT_TRUE(window.isEnabled(control::kOk));
+  EXPECT_TRUE(window.isEnabled(kOk));
   window.type(kName, "");
-  EXPECT_FALSE(window.isEnabled(control::kOk));
+  EXPECT_FALSE(window.isEnabled(kOk));
 }
 
 TEST_F(SaveAsDialogTest, WithoutAProjectItCanOnlyBeLeftByNamingOne) {
   t.project().projectFile.release();
   FakeWindow other(logic);
   other.open();
-  EXPECT_FALSE(other.isEnabled(control::kCancel));
+  EXPECT_FALSE(other.isEnabled(kCancel));
   other.close();
   EXPECT_TRUE(other.isOpen());
   other.type(kName, "New");
-  other.press(control::kOk);
+  other.press(kOk);
   EXPECT_FALSE(other.isOpen());
   EXPECT_EQ(projectFile(), "C:\\Varlo\\Projects\\New\\New.stp");
 }
@@ -200,7 +200,7 @@ TEST_F(SaveAsDialogTest, AMissingShippedFormIsToldAndTheRestGoesOn) {
 }
 
 TEST_F(SaveAsDialogTest, CancelEndsTheDialog) {
-  window.press(control::kCancel);
+  window.press(kCancel);
   EXPECT_FALSE(window.isOpen());
   EXPECT_EQ(projectFile(), kProjectPath);
 }

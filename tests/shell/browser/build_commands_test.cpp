@@ -6,7 +6,6 @@
 
 #include "generator/build/first_build_dialog.h"
 #include "generator/build/store_build_dialog.h"
-#include "platform/control_ids.h"
 #include "shell/state/shell.h"
 #include "shell/window/commands.h"
 #include "tests/support/fake_browsers.h"
@@ -107,16 +106,16 @@ TEST_F(PreviewCommand, TheNodeIsCurrentAgainBeforeTheBrowserIsAsked) {
 
 TEST_F(PreviewCommand, WithoutADirectoryAsksForOneFirst) {
   t.project().webDir.release();
-  t.screen.onDialog = [](int, DialogLogic& logic) {
+  t.screen.onDialog = [](DialogLogic& logic) {
     FakeWindow window(logic);
     window.open();
-    window.type(control::first_build::kDirectory, "C:\\New\\Web");
-    window.type(control::first_build::kTitle, "Other toys");
-    window.press(control::kOk);
+    window.type(first_build::kDirectory, "C:\\New\\Web");
+    window.type(first_build::kTitle, "Other toys");
+    window.press(kOk);
     return window.result();
   };
   previewCurrent(shell);
-  EXPECT_THAT(t.screen.dialogs, ElementsAre(dialog::kFirstBuild));
+  EXPECT_THAT(t.screen.dialogs, ElementsAre(first_build::kWindow));
   EXPECT_STREQ(t.project().webDir.get(), "C:\\New\\Web");
   EXPECT_STREQ(t.project().storeTitle.get(), "Other toys");
   EXPECT_THAT(browsers.calls, ElementsAre("start b | C:\\New\\Web\\ftmp.htm"));
@@ -124,10 +123,10 @@ TEST_F(PreviewCommand, WithoutADirectoryAsksForOneFirst) {
 
 TEST_F(PreviewCommand, StopsWhenTheDirectoryIsNotGiven) {
   t.project().webDir.release();
-  t.screen.onDialog = [](int, DialogLogic& logic) {
+  t.screen.onDialog = [](DialogLogic& logic) {
     FakeWindow window(logic);
     window.open();
-    window.press(control::kCancel);
+    window.press(kCancel);
     return window.result();
   };
   previewCurrent(shell);
@@ -208,7 +207,7 @@ class BuildStoreCommand : public testing::Test {
     t.config().orderServer.assign("orders.example");
     t.project().projectFile.assign(kShopPath);
     t.project().currentNode = AddCategory(t.project(), "Home");
-    t.screen.onOpenDialog = [this](int, DialogLogic& logic) {
+    t.screen.onOpenDialog = [this](const std::shared_ptr<DialogLogic>& logic) {
       windows.push_back(std::make_unique<FakeWindow>(logic));
       windows.back()->open();
       return windows.back().get();
@@ -219,8 +218,8 @@ class BuildStoreCommand : public testing::Test {
 
 TEST_F(BuildStoreCommand, OpensTheStoreBuildWindow) {
   run();
-  EXPECT_THAT(t.screen.dialogs, ElementsAre(dialog::kStoreBuild));
-  EXPECT_EQ(t.shell.generator.log.buildWindow, t.shell.buildDialog.get());
+  EXPECT_THAT(t.screen.dialogs, ElementsAre(store_build::kWindow));
+  EXPECT_EQ(t.shell.generator.log.buildWindow, t.shell.buildWindow.logic());
 }
 
 TEST_F(BuildStoreCommand, BringsTheWindowThatIsOpenToTheFront) {
@@ -237,7 +236,7 @@ TEST_F(BuildStoreCommand, OpensAnotherOnceTheFirstWasClosed) {
   run();
   ASSERT_EQ(windows.size(), 2U);
   EXPECT_FALSE(windows[0]->inFront());
-  EXPECT_EQ(t.shell.generator.log.buildWindow, t.shell.buildDialog.get());
+  EXPECT_EQ(t.shell.generator.log.buildWindow, t.shell.buildWindow.logic());
 }
 
 TEST_F(BuildStoreCommand, WithoutAServerIsToldAndOpensNothing) {
@@ -260,7 +259,7 @@ TEST_F(BuildStoreCommand, AWindowThatCannotBeMadeIsTriedAgain) {
   t.screen.onOpenDialog = nullptr;
   run();
   run();
-  EXPECT_THAT(t.screen.dialogs, ElementsAre(dialog::kStoreBuild, dialog::kStoreBuild));
+  EXPECT_THAT(t.screen.dialogs, ElementsAre(store_build::kWindow, store_build::kWindow));
 }
 
 }  // namespace

@@ -6,7 +6,8 @@
 
 #include "core/program/scheme.h"
 #include "core/store/user_variable.h"
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
+#include "shell/tabs/inventory_page.h"
 #include "tests/support/page_stand_in.h"
 #include "tests/support/test_shell.h"
 #include "tests/support/tree.h"

@@ -4,7 +4,9 @@
 
 #include "core/program/scheme.h"
 #include "core/store/user_variable.h"
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
+#include "shell/tabs/inventory_page.h"
+#include "shell/tabs/tab_switch.h"
 #include "tests/support/page_stand_in.h"
 #include "tests/support/test_shell.h"
 #include "tests/support/tree.h"
@@ -22,7 +24,7 @@ class States : public testing::Test {
     t.project().projectFile.assign(kShopPath);
     t.project().currentNode = t.project().treeNode = AddCategory(t.project(), "Home");
   }
-  void openPage() { t.shell.tabPage = &page.window; }
+  void openPage() { page.openIn(t.shell); }
   void focusOn(Focus::Place place, ControlId control = 0) { t.window.focused = {place, control}; }
   std::vector<Command> enabledOf(const std::vector<Command>& commands) {
     std::vector<Command> enabled;
@@ -68,14 +70,14 @@ TEST_F(States, AShopEnablesMenuButtonsAndTools) {
                                 Command::NewList, Command::BuildStore, Command::PreviewPage}) {
     EXPECT_TRUE(t.window.toolEnabled(command)) << static_cast<int>(command);
   }
-  for (ControlId button = control::main::kPreview; button <= control::main::kBuild; ++button) {
+  for (ControlId button = main_window::kPreview; button <= main_window::kBuild; ++button) {
     EXPECT_TRUE(t.window.frame().isEnabled(button)) << button;
   }
 }
 
 TEST_F(States, WithoutAShopButtonsAndToolsAreGrey) {
   refreshCommandStates(t.shell);
-  for (ControlId button = control::main::kPreview; button <= control::main::kBuild; ++button) {
+  for (ControlId button = main_window::kPreview; button <= main_window::kBuild; ++button) {
     EXPECT_FALSE(t.window.frame().isEnabled(button)) << button;
   }
   for (const Command command : {Command::Save, Command::NewProduct, Command::NewCategory, Command::NewShelf,
@@ -128,15 +130,15 @@ TEST_F(States, PasteInTheTreeNeedsACopiedNode) {
 TEST_F(States, InTheDescriptionSelectionAndClipboardDecide) {
   openShop();
   openPage();
-  focusOn(Focus::Place::Page, control::inventory::kDescription);
+  focusOn(Focus::Place::Page, inventory::kDescription);
   refreshCommandStates(t.shell);
   EXPECT_TRUE(t.window.entryEnabled(Command::Find));
   EXPECT_TRUE(t.window.entryEnabled(Command::SelectAll));
   EXPECT_FALSE(t.window.entryEnabled(Command::Copy));
   EXPECT_FALSE(t.window.entryEnabled(Command::Paste));
 
-  page.window.setText(control::inventory::kDescription, "Round");
-  page.window.select(control::inventory::kDescription, 0, 2);
+  page.window.setText(inventory::kDescription, "Round");
+  page.window.select(inventory::kDescription, 0, 2);
   t.clipboard.putText("and red");
   refreshCommandStates(t.shell);
   EXPECT_TRUE(t.window.entryEnabled(Command::Copy));
@@ -147,23 +149,23 @@ TEST_F(States, InTheDescriptionSelectionAndClipboardDecide) {
 TEST_F(States, AnotherFieldOfThePageIsNoRichEdit) {
   openShop();
   openPage();
-  focusOn(Focus::Place::Page, control::inventory::kTitle);
+  focusOn(Focus::Place::Page, inventory::kTitle);
   EXPECT_EQ(gatherFacts(t.shell).focus, FocusPlace::Elsewhere);
-  focusOn(Focus::Place::Page, control::inventory::kDescription);
-  t.shell.currentTab = Tab::Freight;
+  focusOn(Focus::Place::Page, inventory::kDescription);
+  t.shell.pageLogic = traitsOf(Tab::Freight).makePage(t.shell);
   EXPECT_EQ(gatherFacts(t.shell).focus, FocusPlace::Elsewhere);
 }
 
 TEST_F(States, EveryFieldOfTheInventoryFormFollowsTheNode) {
   openPage();
   refreshCommandStates(t.shell);
-  for (ControlId field = control::inventory::kTitle; field <= control::inventory::kDescription; ++field) {
+  for (ControlId field = inventory::kTitle; field <= inventory::kDescription; ++field) {
     EXPECT_FALSE(page.window.isEnabled(field)) << field;
   }
   openShop();
   t.project().root->image.assign("a.gif");
   refreshCommandStates(t.shell);
-  for (ControlId field = control::inventory::kTitle; field <= control::inventory::kDescription; ++field) {
+  for (ControlId field = inventory::kTitle; field <= inventory::kDescription; ++field) {
     EXPECT_TRUE(page.window.isEnabled(field)) << field;
   }
 }
@@ -174,26 +176,26 @@ TEST_F(States, FileNameAndTemplateOfAProductInAListAreGrey) {
   StoreNode* list = AddNode(t.project(), NodeKind::List, "Rows", t.project().root);
   t.project().currentNode = AddProduct(t.project(), "Ball", list);
   refreshCommandStates(t.shell);
-  EXPECT_FALSE(page.window.isEnabled(control::inventory::kFileName));
-  EXPECT_FALSE(page.window.isEnabled(control::inventory::kTemplate));
-  EXPECT_TRUE(page.window.isEnabled(control::inventory::kTitle));
+  EXPECT_FALSE(page.window.isEnabled(inventory::kFileName));
+  EXPECT_FALSE(page.window.isEnabled(inventory::kTemplate));
+  EXPECT_TRUE(page.window.isEnabled(inventory::kTitle));
 }
 
 TEST_F(States, AnImageLinkIsOfferedWithAnImageOnly) {
   openShop();
   openPage();
   refreshCommandStates(t.shell);
-  EXPECT_FALSE(page.window.isEnabled(control::inventory::kImageLink));
+  EXPECT_FALSE(page.window.isEnabled(inventory::kImageLink));
   t.project().root->image.assign("a.gif");
   refreshCommandStates(t.shell);
-  EXPECT_TRUE(page.window.isEnabled(control::inventory::kImageLink));
+  EXPECT_TRUE(page.window.isEnabled(inventory::kImageLink));
 }
 
 TEST_F(States, ThePagesOfOtherTabsAreLeftAlone) {
   openPage();
-  t.shell.currentTab = Tab::Layout;
+  t.shell.pageLogic = traitsOf(Tab::Layout).makePage(t.shell);
   refreshCommandStates(t.shell);
-  EXPECT_TRUE(page.window.isEnabled(control::inventory::kTitle));
+  EXPECT_TRUE(page.window.isEnabled(inventory::kTitle));
 }
 
 TEST_F(States, WhatTheOtherTabsHaveIsGathered) {

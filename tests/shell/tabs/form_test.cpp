@@ -3,7 +3,8 @@
 #include <set>
 
 #include "core/text/limits.h"
-#include "shell/tabs/form_fields.h"
+#include "shell/tabs/inventory_page.h"
+#include "shell/tabs/tab_switch.h"
 #include "tests/support/test_form.h"
 #include "tests/support/test_shell.h"
 
@@ -11,7 +12,7 @@ namespace varlo {
 namespace {
 
 using namespace test;
-using namespace control::inventory;
+using namespace inventory;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::ElementsAreArray;
@@ -70,11 +71,11 @@ class Form : public testing::Test {
 
 TEST_F(Form, TheTableHasEachFieldOnce) {
   std::set<ControlId> controls;
-  for (const FormField& field : kFormFields) controls.insert(field.control);
+  for (const Field<StoreNode>& field : InventoryFields()) controls.insert(field.id);
   std::set<ControlId> expected;
   for (const Expected& field : allFields()) expected.insert(field.control);
   EXPECT_EQ(controls, expected);
-  EXPECT_EQ(kFormFields.size(), allFields().size());
+  EXPECT_EQ(InventoryFields().size(), allFields().size());
 }
 
 TEST_F(Form, EachFieldShowsItsTextOfTheNode) {
@@ -137,11 +138,11 @@ TEST_F(Form, FieldsAreFilledInTheirOrder) {
   t.shell.descriptionCache.reset();
   loadForm(t.shell);
   EXPECT_THAT(t.page->filled,
-              ElementsAreArray(
-                  {kDescription,  kTitle,      kPageTitle,   kImageLink,  kImage,      kFileName, kMetaDescription,
-                   kMetaKeywords, kCost,       kProductCode, kFreight,    kWeight,     kTax,      kValue1,
-                   kValue1 + 1,   kValue1 + 2, kValue1 + 3,  kValue1 + 4, kValue1 + 5, kLabel1,   kLabel1 + 1,
-                   kLabel1 + 2,   kLabel1 + 3, kLabel1 + 4,  kLabel1 + 5, kTemplate}));
+              ElementsAreArray(std::vector<ControlId>{
+                  kDescription,  kTitle,      kPageTitle,   kImageLink,  kImage,      kFileName, kMetaDescription,
+                  kMetaKeywords, kCost,       kProductCode, kFreight,    kWeight,     kTax,      kValue1,
+                  kValue1 + 1,   kValue1 + 2, kValue1 + 3,  kValue1 + 4, kValue1 + 5, kLabel1,   kLabel1 + 1,
+                  kLabel1 + 2,   kLabel1 + 3, kLabel1 + 4,  kLabel1 + 5, kTemplate}));
 }
 
 TEST_F(Form, FillingMarksNothing) {
@@ -356,25 +357,25 @@ TEST_F(Form, OtherPagesReadNothingIntoTheNode) {
 
 TEST_F(Form, AChangeIsReadAndMarkedUnlessThePageIsBeingFilled) {
   t.open();
-  EXPECT_TRUE(onFieldCommand(t.shell, {kTax, Notice::Changed}));
+  EXPECT_TRUE(onFieldCommand(t.shell, {.control = kTax, .notice = Notice::Changed}));
   EXPECT_EQ(t.project().dirty, 1);
   t.project().dirty = 0;
   t.shell.formLoading = true;
-  EXPECT_FALSE(onFieldCommand(t.shell, {kTax, Notice::Changed}));
+  EXPECT_FALSE(onFieldCommand(t.shell, {.control = kTax, .notice = Notice::Changed}));
   EXPECT_EQ(t.project().dirty, 0);
 }
 
 TEST_F(Form, TheFocusShowsTheHelpOfTheControl) {
   t.open();
-  EXPECT_TRUE(onFieldCommand(t.shell, {kTax, Notice::GotFocus}));
+  EXPECT_TRUE(onFieldCommand(t.shell, {.control = kTax, .notice = Notice::GotFocus}));
   EXPECT_THAT(t.view.calls, ElementsAre("showHelp " + std::to_string(kTax)));
   EXPECT_EQ(t.project().dirty, 0);
 }
 
 TEST_F(Form, OtherNotificationsMeanNothing) {
   t.open();
-  for (const Notice notice : {Notice::LostFocus, Notice::Clicked, Notice::RowSelected, Notice::Posted}) {
-    EXPECT_FALSE(onFieldCommand(t.shell, {kTax, notice}));
+  for (const Notice notice : {Notice::LostFocus, Notice::Clicked, Notice::SelectionChanged, Notice::Posted}) {
+    EXPECT_FALSE(onFieldCommand(t.shell, {.control = kTax, .notice = notice}));
   }
   EXPECT_EQ(t.project().dirty, 0);
 }
@@ -384,15 +385,15 @@ TEST(FormOnTheTree, TypingInTheTitleChangesTheTreeLabelBeforeTheNextKey) {
   StoreNode* node = AddCategory(t.project(), "Home");
   Select(t.project(), node);
   t.shell.mainWindow = &t.window;
+  t.project().projectFile.assign(kShopPath);
   node->treeItem = t.window.theTree.insert({.label = "Home", .data = node});
-  const std::unique_ptr<DialogLogic> logic = makePage(t.shell, Tab::Inventory);
-  t.window.openPage(traitsOf(Tab::Inventory).dialogId, *logic);
+  openTabPage(t.shell);
   t.window.page()->type(kTitle, "Homes");
   EXPECT_EQ(t.window.theTree.labelOf(node->treeItem), "Homes");
   EXPECT_EQ(t.project().dirty, 1);
   t.window.page()->type(kTitle, "Homest");
   EXPECT_EQ(t.window.theTree.labelOf(node->treeItem), "Homest");
-  t.window.closePage();
+  closeTabPage(t.shell);
 }
 
 TEST(FormDiffers, InAnyField) {
@@ -439,12 +440,12 @@ TEST(FormDiffers, WhatTheFormDoesNotShowDoesNotCount) {
 class DigitsOnly : public testing::Test {
  protected:
   TestForm t;
-  void SetUp() override { t.open(Tab::Freight); }
+  void SetUp() override { t.open(); }
   std::string of(std::string_view text) {
-    t.page->setText(1, text);
+    t.page->setText(kTax, text);  // which filters nothing by itself
     t.page->filled.clear();
-    digitsOnly(*t.page, 1);
-    return t.page->text(1);
+    digitsOnly(*t.page, kTax);
+    return t.page->text(kTax);
   }
 };
 
@@ -456,13 +457,13 @@ TEST_F(DigitsOnly, DeletesWhatIsNeitherADigitNorAPoint) {
 
 TEST_F(DigitsOnly, PutsTheCaretBehindTheTextItChanged) {
   of("12a.5");
-  EXPECT_TRUE(t.page->caretAtEnd(1));
+  EXPECT_TRUE(t.page->caretAtEnd(kTax));
 }
 
 TEST_F(DigitsOnly, LeavesAloneWhatNeedsNoChange) {
   EXPECT_EQ(of("1.2.3"), "1.2.3");
   EXPECT_THAT(t.page->filled, IsEmpty());
-  EXPECT_FALSE(t.page->caretAtEnd(1));
+  EXPECT_FALSE(t.page->caretAtEnd(kTax));
   EXPECT_EQ(of(""), "");
   EXPECT_THAT(t.page->filled, IsEmpty());
 }

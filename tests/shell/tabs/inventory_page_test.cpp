@@ -1,6 +1,7 @@
 #include "shell/tabs/inventory_page.h"
 
 #include "shell/tabs/form.h"
+#include "shell/tabs/tab_switch.h"
 #include "tests/support/test_form.h"
 #include "tests/support/test_shell.h"
 
@@ -8,7 +9,7 @@ namespace varlo {
 namespace {
 
 using namespace test;
-using namespace control::inventory;
+using namespace inventory;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -96,8 +97,8 @@ TEST_F(Inventory, TheLinksShowButtonIsOnWhenItsFieldIsNotEmpty) {
 }
 
 TEST_F(Inventory, TheLinksShowButtonStaysOnWhenTheImageGoes) {
-  t.page->type(kImageLink, "b");
   t.page->type(kImage, "a.gif");
+  t.page->type(kImageLink, "b");
   t.page->type(kImage, "");
   EXPECT_EQ(enabledOfImages(), "showLink ");
 }
@@ -176,13 +177,13 @@ TEST_F(Inventory, TheTemplateListOffersTheNamesOfTheProjectsTemplates) {
   t.project().templateNames[1].assign("C:\\Varlo\\Projects\\Other\\template\\other.htm");
   t.project().templateNames[3].assign("C:\\Varlo\\Projects\\Shop\\product.htm");
   t.open();
-  EXPECT_THAT(t.page->comboRows(kTemplate), ElementsAre("big.htm", "product.htm"));
+  EXPECT_THAT(t.page->rows(kTemplate), ElementsAre("big.htm", "product.htm"));
   EXPECT_EQ(t.page->text(kTemplate), "product.htm");  // of the node
 }
 
 TEST_F(Inventory, ATemplateChosenFromTheListReachesANodeThatHasOne) {
   t.ball->templateName.assign("product.htm");
-  t.page->addComboRow(kTemplate, "big.htm");
+  t.page->addRow(kTemplate, "big.htm");
   t.page->pickComboRow(kTemplate, 0);
   EXPECT_EQ(t.ball->templateName.view(), "product.htm");
   t.page->deliverPosts();
@@ -191,7 +192,7 @@ TEST_F(Inventory, ATemplateChosenFromTheListReachesANodeThatHasOne) {
 }
 
 TEST_F(Inventory, ATemplateChosenFromTheListDoesNotReachANodeWithoutOne) {
-  t.page->addComboRow(kTemplate, "big.htm");
+  t.page->addRow(kTemplate, "big.htm");
   for (const char* none : {static_cast<const char*>(nullptr), ""}) {
     t.ball->templateName.assign(none);
     t.page->pickComboRow(kTemplate, 0);
@@ -205,7 +206,7 @@ TEST_F(Inventory, ATemplateChosenFromTheListDoesNotReachANodeWithoutOne) {
 
 TEST_F(Inventory, AChosenTemplateThatDiffersInCaseOnlyIsNoOther) {
   t.ball->templateName.assign("Big.htm");
-  t.page->addComboRow(kTemplate, "bIG.htm");
+  t.page->addRow(kTemplate, "bIG.htm");
   t.page->pickComboRow(kTemplate, 0);
   t.page->deliverPosts();
   EXPECT_EQ(t.ball->templateName.view(), "Big.htm");
@@ -218,7 +219,7 @@ TEST_F(Inventory, ATypedTemplateNameReachesTheNodeAtOnce) {
 }
 
 TEST_F(Inventory, ATemplateChosenWithoutACurrentNodeIsNobodys) {
-  t.page->addComboRow(kTemplate, "big.htm");
+  t.page->addRow(kTemplate, "big.htm");
   Select(t.project(), nullptr);
   t.page->pickComboRow(kTemplate, 0);
   t.page->deliverPosts();
@@ -226,7 +227,7 @@ TEST_F(Inventory, ATemplateChosenWithoutACurrentNodeIsNobodys) {
 }
 
 TEST_F(Inventory, AnyDoingInTheTemplateListShowsItsHelp) {
-  t.page->addComboRow(kTemplate, "big.htm");
+  t.page->addRow(kTemplate, "big.htm");
   t.page->pickComboRow(kTemplate, 0);
   EXPECT_THAT(t.view.calls, Contains("showHelp " + std::to_string(kTemplate)));
 }
@@ -261,9 +262,10 @@ TEST_F(Inventory, TheFocusInOtherFieldsLeavesTheRememberedOne) {
 }
 
 TEST_F(Inventory, PreviewAndTheHiddenBuildButtonSendPreviewPage) {
+  EXPECT_FALSE(t.page->isShown(kBuild));
   for (const ControlId button : {kPreview, kBuild}) {
     t.screen.posted.clear();
-    t.page->press(button);
+    t.logic->notified(*t.page, {.control = button, .notice = Notice::Clicked});
     EXPECT_THAT(t.screen.posted, ElementsAre(Command::PreviewPage));
   }
 }
@@ -273,24 +275,13 @@ TEST_F(Inventory, TheTitleFollowsInTheTreeAlsoWhenItIsTheSame) {
   StoreNode* node = AddCategory(shelled.project(), "Home");
   Select(shelled.project(), node);
   shelled.shell.mainWindow = &shelled.window;
+  shelled.project().projectFile.assign(kShopPath);
   node->treeItem = shelled.window.theTree.insert({.label = "old", .data = node});
-  const std::unique_ptr<DialogLogic> logic = makePage(shelled.shell, Tab::Inventory);
-  shelled.window.openPage(dialog::kInventoryPage, *logic);
+  openTabPage(shelled.shell);
   EXPECT_EQ(shelled.window.theTree.labelOf(node->treeItem), "old");  // filling is no typing
   shelled.window.page()->type(kTitle, "Home");
   EXPECT_EQ(shelled.window.theTree.labelOf(node->treeItem), "Home");
-  shelled.window.closePage();
-}
-
-TEST_F(Inventory, IsLaidOutForItsSize) {
-  t.page->resize({600, 600});
-  const Rectangle before = t.page->placements().at(kDescription).place;
-  t.page->resize({700, 650});
-  const Rectangle after = t.page->placements().at(kDescription).place;
-  EXPECT_EQ(after.width - before.width, 100);
-  EXPECT_EQ(after.height - before.height, 50);
-  EXPECT_TRUE(t.page->isShown(kPreview));
-  EXPECT_FALSE(t.page->isShown(kBuild));
+  closeTabPage(shelled.shell);
 }
 
 }  // namespace

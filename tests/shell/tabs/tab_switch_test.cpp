@@ -1,9 +1,11 @@
 #include "shell/tabs/tab_switch.h"
 
+#include <set>
+
 #include <gtest/gtest.h>
 
-#include "platform/control_ids.h"
 #include "shell/tabs/form.h"
+#include "shell/tabs/inventory_page.h"
 #include "shell/window/main_layout.h"
 #include "tests/support/test_form.h"
 #include "tests/support/test_shell.h"
@@ -13,16 +15,17 @@ namespace varlo::test {
 namespace {
 
 TEST(Pages, TheTabsHaveTheirLabelsAndPages) {
-  const std::vector<std::pair<std::string_view, int>> expected{
-      {"Inventory", dialog::kInventoryPage},       {"Template", dialog::kTemplatePage},
-      {"Freight", dialog::kFreightPage},           {"Order Form", dialog::kOrderFormPage},
-      {"Confirmation", dialog::kConfirmationPage}, {"Layout", dialog::kLayoutPage},
-      {"Variables", dialog::kVariablesPage}};
+  const std::vector<std::string_view> expected{"Inventory",    "Template", "Freight",  "Order Form",
+                                               "Confirmation", "Layout",   "Variables"};
+  TestForm t;
   ASSERT_EQ(static_cast<int>(expected.size()), kTabs);
+  std::set<ControlId> windows;
   for (int tab = 0; tab < kTabs; ++tab) {
     const TabTraits& traits = traitsOf(static_cast<Tab>(tab));
-    EXPECT_EQ(traits.label, expected[static_cast<std::size_t>(tab)].first);
-    EXPECT_EQ(traits.dialogId, expected[static_cast<std::size_t>(tab)].second);
+    EXPECT_EQ(traits.label, expected[static_cast<std::size_t>(tab)]);
+    const std::shared_ptr<TabPage> page = traits.makePage(t.shell);
+    EXPECT_EQ(page->shape().form, Form::Page);
+    EXPECT_TRUE(windows.insert(page->shape().id).second) << "two pages with the number " << page->shape().id;
   }
 }
 
@@ -40,18 +43,9 @@ TEST(Pages, TheInventoryPageIsFilledWhenItOpens) {
   TestForm t;
   t.ball->body.assign("round");
   t.open();
-  EXPECT_EQ(t.page->text(control::inventory::kTitle), "Ball");
-  EXPECT_EQ(t.page->text(control::inventory::kDescription), "round");
+  EXPECT_EQ(t.page->text(inventory::kTitle), "Ball");
+  EXPECT_EQ(t.page->text(inventory::kDescription), "round");
   EXPECT_EQ(t.project().dirty, 0);
-}
-
-TEST(Pages, TheOtherPagesShowTheirFrame) {
-  TestForm t;
-  for (int tab = 1; tab < kTabs; ++tab) {
-    t.open(static_cast<Tab>(tab));
-    EXPECT_TRUE(t.page->placements().empty()) << tab;
-    EXPECT_EQ(t.page->text(control::inventory::kTitle), "") << tab;
-  }
 }
 
 TEST(Pages, EachPassesItsNotificationsToTheForm) {
@@ -59,9 +53,9 @@ TEST(Pages, EachPassesItsNotificationsToTheForm) {
   for (int tab = 0; tab < kTabs; ++tab) {
     t.open(static_cast<Tab>(tab));
     t.project().dirty = 0;
-    t.page->enter(99);
-    EXPECT_THAT(t.view.calls, testing::ElementsAre("showHelp 99")) << tab;
-    t.page->type(99, "x");
+    t.logic->notified(*t.page, {.control = 99, .notice = Notice::GotFocus});
+    EXPECT_THAT(t.view.calls, testing::Contains("showHelp 99")) << tab;
+    t.logic->notified(*t.page, {.control = 99, .notice = Notice::Changed});
     EXPECT_EQ(t.project().dirty, 1) << tab;
   }
 }
@@ -71,11 +65,10 @@ TEST(Pages, EscapeOnAPageEndsTheProgram) {
     TestShell t;
     t.shell.mainWindow = &t.window;
     t.shell.currentTab = static_cast<Tab>(tab);
-    const std::unique_ptr<DialogLogic> logic = makePage(t.shell, t.shell.currentTab);
-    t.window.openPage(traitsOf(t.shell.currentTab).dialogId, *logic);
+    openTabPage(t.shell);
     t.window.page()->close();
     EXPECT_THAT(t.screen.posted, testing::ElementsAre(Command::Quit)) << tab;
-    t.window.closePage();
+    closeTabPage(t.shell);
   }
 }
 
@@ -83,17 +76,21 @@ TEST(Pages, EscapeOnAPageEndsTheProgram) {
 TEST(Pages, WhatTheControlsTellWhileAPageIsPreparedDoesNotEmptyTheNode) {
   struct TalkingWindow : FakeWindow {
     explicit TalkingWindow(DialogLogic& theLogic) : FakeWindow(theLogic), logic(theLogic) {}
-    void clearCombo(ControlId control) override { logic.notified(*this, {control, Notice::Changed}); }
+    void clearRows(ControlId control) override {
+      logic.notified(*this, {.control = control, .notice = Notice::Changed});
+    }
     DialogLogic& logic;
   };
   TestForm t;
-  const std::unique_ptr<DialogLogic> logic = makePage(t.shell, Tab::Inventory);
+  t.shell.pageLogic = traitsOf(Tab::Inventory).makePage(t.shell);
+  const std::shared_ptr<PageLogic> logic = t.shell.pageLogic;
   TalkingWindow window(*logic);
   window.open();
   EXPECT_EQ(t.ball->title.view(), "Ball");
-  EXPECT_EQ(window.text(control::inventory::kTitle), "Ball");
+  EXPECT_EQ(window.text(inventory::kTitle), "Ball");
   EXPECT_EQ(t.project().dirty, 0);
   logic->closed();
+  t.shell.pageLogic = nullptr;
 }
 
 class TabSwitch : public testing::Test {
@@ -113,7 +110,7 @@ TEST_F(TabSwitch, OpensThePageOfEachTabInThePlaceOfTheOneBefore) {
                         Tab::Inventory}) {
     t.window.pickTab(static_cast<int>(tab));
     EXPECT_EQ(t.shell.currentTab, tab);
-    EXPECT_EQ(t.window.pageId(), traitsOf(tab).dialogId);
+    EXPECT_EQ(t.window.pageId(), traitsOf(tab).makePage(t.shell)->shape().id);
     EXPECT_EQ(t.shell.tabPage, t.window.page());
     ASSERT_NE(t.shell.tabPage, nullptr);
     EXPECT_EQ(t.window.pagePlace(), layOutMainWindow(layoutFactsOf(t.shell)).page);
@@ -121,7 +118,7 @@ TEST_F(TabSwitch, OpensThePageOfEachTabInThePlaceOfTheOneBefore) {
 }
 
 TEST_F(TabSwitch, ForgetsWhatBelongedToThePageBefore) {
-  t.shell.focusedField = t.shell.linkedField = control::inventory::kDescription;
+  t.shell.focusedField = t.shell.linkedField = inventory::kDescription;
   t.shell.descriptionCache = "old";
   t.window.pickTab(1);
   EXPECT_EQ(t.shell.focusedField, 0);
@@ -158,15 +155,15 @@ TEST_F(TabSwitch, RefreshesTheCommands) {
 }
 
 TEST_F(TabSwitch, WhileTypingLosesNothing) {
-  t.window.page()->type(control::inventory::kTitle, "Toys");
-  t.window.page()->type(control::inventory::kDescription, "Roun");
-  t.window.page()->type(control::inventory::kDescription, "Round");
+  t.window.page()->type(inventory::kTitle, "Toys");
+  t.window.page()->type(inventory::kDescription, "Roun");
+  t.window.page()->type(inventory::kDescription, "Round");
   t.window.pickTab(1);
   EXPECT_EQ(t.project().root->title.view(), "Toys");
   EXPECT_EQ(t.project().root->body.view(), "Round");
   t.window.pickTab(0);
-  EXPECT_EQ(t.window.page()->text(control::inventory::kTitle), "Toys");
-  EXPECT_EQ(t.window.page()->text(control::inventory::kDescription), "Round");
+  EXPECT_EQ(t.window.page()->text(inventory::kTitle), "Toys");
+  EXPECT_EQ(t.window.page()->text(inventory::kDescription), "Round");
 }
 
 TEST_F(TabSwitch, AClosedPageIsNoLongerKnown) {

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
+#include "shell/tabs/inventory_page.h"
+#include "shell/window/commands.h"
 #include "tests/support/shown_store.h"
 
 namespace varlo::test {
@@ -140,10 +142,10 @@ TEST(RowSelection, AsksForTheHelpOfTheListAndThatOfTheTreeForTheTree) {
   SmallStore t;
   t.view.helps.clear();
   t.window.clickRow(0);
-  EXPECT_EQ(t.view.helps, std::vector{control::main::kItemList});
+  EXPECT_EQ(t.view.helps, std::vector<int>{main_window::kItemList});
   t.view.helps.clear();
   t.logic.treeItemExpanding(t.window.theTree.selected());
-  EXPECT_EQ(t.view.helps, std::vector{control::main::kTree});
+  EXPECT_EQ(t.view.helps, std::vector<int>{main_window::kTree});
 }
 
 TEST(ListKeys, PostDeleteAndWithControlSelectAll) {
@@ -198,10 +200,10 @@ TEST(SelectCurrent, SetsBothReferencesAndShowsTheChildren) {
 
 TEST(SelectCurrent, OfNothingOnlyTurnsPreviewOff) {
   SmallStore t;
-  t.window.frame().enable(control::main::kPreview, true);
+  t.window.frame().enable(main_window::kPreview, true);
   t.shell.fromList = true;
   selectCurrent(t.shell, nullptr);
-  EXPECT_FALSE(t.window.frame().isEnabled(control::main::kPreview));
+  EXPECT_FALSE(t.window.frame().isEnabled(main_window::kPreview));
   EXPECT_EQ(t.current(), t.home);
   EXPECT_TRUE(t.shell.fromList);
   EXPECT_EQ(t.rows(), "Toys Books");
@@ -212,7 +214,7 @@ TEST(SelectCurrent, FillsTheForm) {
   t.nameShop();
   t.open();
   selectCurrent(t.shell, t.project().root->child);
-  EXPECT_EQ(t.window.page()->text(control::inventory::kTitle), "Toys");
+  EXPECT_EQ(t.window.page()->text(inventory::kTitle), "Toys");
 }
 
 TEST(SelectInTree, MakesTheNodeCurrentAndItsItemVisible) {

@@ -3,7 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "core/store/freight_record.h"
-#include "platform/control_ids.h"
+#include "persist/dialogs/preferences_dialog.h"
+#include "persist/dialogs/restore_dialog.h"
+#include "persist/dialogs/save_as_dialog.h"
+#include "platform/main_window.h"
+#include "shell/tabs/inventory_page.h"
 #include "shell/tree/node_selection.h"
 #include "tests/support/page_stand_in.h"
 #include "tests/support/test_shell.h"
@@ -67,7 +71,7 @@ TEST_F(Commands, OpenOffersToSaveAfterTheChoiceAndShowsTheOtherProject) {
   EXPECT_THAT(t.screen.boxes, ElementsAre(kAskToSave));
   EXPECT_EQ(t.window.theTree.shown(), "Books(Atlas)");
   EXPECT_EQ(t.window.title(), "Varlo PRO - Other");
-  EXPECT_EQ(t.window.page()->text(control::inventory::kTitle), "Books");
+  EXPECT_EQ(t.window.page()->text(inventory::kTitle), "Books");
 }
 
 TEST_F(Commands, OpenThatIsCancelledChangesNothing) {
@@ -115,17 +119,17 @@ TEST_F(Commands, TheModalDialogsAreRun) {
   run(Command::SaveAs);
   run(Command::RestoreBackup);
   run(Command::Preferences);
-  EXPECT_THAT(t.screen.dialogs, ElementsAre(dialog::kSaveAs, dialog::kRestore, dialog::kPreferences));
+  EXPECT_THAT(t.screen.dialogs, ElementsAre(save_as::kWindow, restore::kWindow, preferences::kWindow));
 }
 
 TEST_F(Commands, ADialogWorksOnTheProgram) {
   t.attach();
   t.config().orderServer.assign("orders.example");
   std::string shown;
-  t.screen.onDialog = [&](int, DialogLogic& logic) {
+  t.screen.onDialog = [&](DialogLogic& logic) {
     FakeWindow window(logic);
     window.open();
-    shown = window.text(control::preferences::kServer);
+    shown = window.text(preferences::kServer);
     return 0;
   };
   run(Command::Preferences);
@@ -141,7 +145,7 @@ TEST_F(Commands, MergeAddsTheOtherTreeAndShowsIt) {
   EXPECT_EQ(fileRequest(), "C:\\Varlo\\Projects|Import from Project|Store Project (*.stp)$*.stp$$|exists");
   EXPECT_EQ(t.window.theTree.shown(), "Home(Toys(Ball) Bats Rows Books(Atlas))");
   EXPECT_EQ(t.window.theTree.labelOf(t.window.theTree.selected()), "Toys");
-  EXPECT_EQ(t.window.page()->text(control::inventory::kTitle), "Toys");
+  EXPECT_EQ(t.window.page()->text(inventory::kTitle), "Toys");
   EXPECT_THAT(t.window.theList.cells(0), ElementsAre("Ball"));
   EXPECT_EQ(t.project().dirty, 1);
 }
@@ -175,25 +179,25 @@ TEST_F(Commands, ImportFreightTablesTakesThemFromTheOtherProject) {
 
 TEST_F(Commands, TogglingTheToolbarTurnsItsBitLaysOutAndTicks) {
   t.attach();
-  t.shell.tabPage = &page.window;
+  page.openIn(t.shell);
   run(Command::ToggleToolbar);
   EXPECT_EQ(t.config().viewFlags, kViewButtons);
-  EXPECT_FALSE(t.window.frame().isShown(control::main::kToolbar));
+  EXPECT_FALSE(t.window.frame().isShown(main_window::kToolbar));
   EXPECT_FALSE(t.window.entryChecked(Command::ToggleToolbar));
   run(Command::ToggleToolbar);
   EXPECT_EQ(t.config().viewFlags, kViewToolbar | kViewButtons);
-  EXPECT_TRUE(t.window.frame().isShown(control::main::kToolbar));
+  EXPECT_TRUE(t.window.frame().isShown(main_window::kToolbar));
   EXPECT_TRUE(t.window.entryChecked(Command::ToggleToolbar));
 }
 
 TEST_F(Commands, TogglingTheButtonsTurnsTheirBitLaysOutAndTicks) {
   t.attach();
-  t.shell.tabPage = &page.window;
+  page.openIn(t.shell);
   run(Command::ToggleButtons);
   EXPECT_EQ(t.config().viewFlags, kViewToolbar);
-  EXPECT_FALSE(t.window.frame().isShown(control::main::kBuild));
+  EXPECT_FALSE(t.window.frame().isShown(main_window::kBuild));
   run(Command::ToggleButtons);
-  EXPECT_TRUE(t.window.frame().isShown(control::main::kBuild));
+  EXPECT_TRUE(t.window.frame().isShown(main_window::kBuild));
   EXPECT_TRUE(t.window.entryChecked(Command::ToggleButtons));
 }
 
@@ -320,7 +324,7 @@ TEST_F(Commands, RefillTreeFillsTreeAndListAnew) {
 
 TEST_F(Commands, ResizeOfTheWindowIsACommandAsWell) {
   t.attach();
-  t.shell.tabPage = &page.window;
+  page.openIn(t.shell);
   run(Command::ResizeMainWindow);
   EXPECT_EQ(t.window.redraws(), 1);
 }

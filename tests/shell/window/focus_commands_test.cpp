@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/control_ids.h"
+#include "shell/tabs/inventory_page.h"
 #include "shell/window/commands.h"
 #include "tests/support/page_stand_in.h"
 #include "tests/support/test_shell.h"
@@ -13,7 +13,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-constexpr ControlId kEdit = control::inventory::kDescription;
+constexpr ControlId kEdit = inventory::kDescription;
 
 class FocusCommands : public testing::Test {
  protected:
@@ -24,7 +24,7 @@ class FocusCommands : public testing::Test {
 
   void SetUp() override {
     t.attach();
-    t.shell.tabPage = &page.window;
+    page.openIn(t.shell);
     t.project().projectFile.assign(kShopPath);
     t.project().currentNode = t.project().treeNode = ball;
     page.window.setText(kEdit, "Round ball");
@@ -122,7 +122,7 @@ TEST_F(FocusCommands, SelectAllAnywhereElseSelectsEveryRow) {
 
 TEST_F(FocusCommands, ElsewhereThereIsNothingToCopyPasteOrDelete) {
   t.project().clipboardNode = std::make_unique<StoreNode>();
-  for (const Focus focus : {Focus{}, Focus{Focus::Place::Page, control::inventory::kTitle}}) {
+  for (const Focus focus : {Focus{}, Focus{Focus::Place::Page, inventory::kTitle}}) {
     t.window.focused = focus;
     for (const Command command : {Command::Copy, Command::Paste, Command::Delete}) run(command);
   }

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
 #include "shell/window/main_window_life.h"
 #include "tests/support/page_stand_in.h"
 #include "tests/support/test_shell.h"
@@ -20,7 +20,7 @@ void PrintTo(const Rectangle& place, std::ostream* out) {
 namespace test {
 namespace {
 
-namespace ids = control::main;
+namespace ids = main_window;
 
 const LayoutFacts kWindow{.client = {1000, 690}, .rowHeight = 20, .leftWidth = 350};
 
@@ -151,7 +151,7 @@ class Resize : public testing::Test {
 
   void SetUp() override {
     t.attach();
-    t.shell.tabPage = &page.window;
+    page.openIn(t.shell);
   }
 };
 

@@ -4,7 +4,7 @@
 
 #include "core/program/messages.h"
 #include "persist/life/file_steps.h"
-#include "platform/control_ids.h"
+#include "shell/tabs/inventory_page.h"
 #include "shell/window/commands.h"
 #include "shell/window/toolbar.h"
 #include "tests/support/test_shell.h"
@@ -103,7 +103,7 @@ TEST_F(WindowLife, MakesTheToolbarTheColumnsAndTheInventoryPage) {
   t.open();
   EXPECT_EQ(t.window.toolbar().size(), toolbarButtons().size());
   EXPECT_EQ(t.window.theList.columns.size(), 16U);
-  EXPECT_EQ(t.window.pageId(), dialog::kInventoryPage);
+  EXPECT_EQ(t.window.pageId(), inventory::kWindow);
   EXPECT_EQ(t.shell.tabPage, t.window.page());
 }
 

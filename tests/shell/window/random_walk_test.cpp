@@ -194,10 +194,10 @@ class RandomWalk {
 
   void makeNode() {
     static constexpr std::pair<Command, ControlId> kNew[] = {
-        {Command::NewCategory, control::main::kCategory}, {Command::NewCategory, control::main::kCategory},
-        {Command::NewShelf, control::main::kShelf},       {Command::NewList, control::main::kList},
-        {Command::NewProduct, control::main::kProduct},   {Command::NewProduct, control::main::kProduct},
-        {Command::NewProduct, control::main::kProduct}};
+        {Command::NewCategory, main_window::kCategory}, {Command::NewCategory, main_window::kCategory},
+        {Command::NewShelf, main_window::kShelf},       {Command::NewList, main_window::kList},
+        {Command::NewProduct, main_window::kProduct},   {Command::NewProduct, main_window::kProduct},
+        {Command::NewProduct, main_window::kProduct}};
     const auto& [command, button] = kNew[below(std::size(kNew))];
     const bool byTool = oneIn(3) && t_.window.toolEnabled(command);
     const bool byButton = oneIn(3) && t_.window.frame().isEnabled(button);
@@ -237,9 +237,9 @@ class RandomWalk {
   void sort() { t_.logic.columnClicked(static_cast<int>(below(18)) - 1); }
 
   // The page of the first tab, if it is open.
-  FakeWindow* form() { return t_.window.pageId() == dialog::kInventoryPage ? t_.window.page() : nullptr; }
+  FakeWindow* form() { return t_.window.pageId() == inventory::kWindow ? t_.window.page() : nullptr; }
 
-  static ControlId at(std::size_t field) { return control::inventory::kTitle + static_cast<int>(field); }
+  static ControlId at(std::size_t field) { return inventory::kTitle + static_cast<int>(field); }
   static constexpr std::size_t kFields = 26;
 
   void focusField(ControlId field) {
@@ -253,7 +253,7 @@ class RandomWalk {
                                                Focus::Place::Elsewhere, Focus::Place::Page};
     const Focus::Place place = kPlaces[below(std::size(kPlaces))];
     if (place == Focus::Place::Page && form() != nullptr) {
-      const ControlId field = oneIn(3) ? control::inventory::kDescription : at(below(kFields));
+      const ControlId field = oneIn(3) ? inventory::kDescription : at(below(kFields));
       if (form()->isEnabled(field)) return focusField(field);
     }
     t_.window.focused = {place, 0};
@@ -264,7 +264,7 @@ class RandomWalk {
     static constexpr const char* kTexts[] = {"",      "Ball",           "<b>Bold</b> ball", "<img alt=\"Car\">",
                                              "12a.5", "pics\\a\\b.gif", "a &amp; b, c",     "category.htm"};
     static constexpr const char* kKeys[] = {"a", "7", ".", "\\", " ", "\xE9"};
-    const ControlId field = oneIn(4) ? control::inventory::kTitle : at(below(kFields));
+    const ControlId field = oneIn(4) ? inventory::kTitle : at(below(kFields));
     if (form() == nullptr || !form()->isEnabled(field)) return;
     focusField(field);
     if (oneIn(2)) {
@@ -272,15 +272,14 @@ class RandomWalk {
     } else {
       form()->type(field, form()->text(field).substr(0, 30) + kKeys[below(std::size(kKeys))]);
     }
-    if (field == control::inventory::kTemplate && form()->text(field).empty())
-      templateEmptied_ = project_.currentNode;
+    if (field == inventory::kTemplate && form()->text(field).empty()) templateEmptied_ = project_.currentNode;
     if (!oneIn(4)) form()->deliverPosts();
     EXPECT_NE(project_.dirty, 0);
     ++typed_;
   }
 
   void selectText() {
-    constexpr ControlId kField = control::inventory::kDescription;
+    constexpr ControlId kField = inventory::kDescription;
     if (form() == nullptr || !form()->isEnabled(kField)) return;
     form()->clipboard = oneIn(2) ? "pasted" : "";
     const std::size_t size = form()->text(kField).size();
@@ -290,7 +289,7 @@ class RandomWalk {
   }
 
   void pressOnPage() {
-    namespace ids = control::inventory;
+    namespace ids = inventory;
     static constexpr ControlId kButtons[] = {ids::kChooseImage,   ids::kChooseImageLink, ids::kShowImage,
                                              ids::kShowImageLink, ids::kPreview,         ids::kBuild};
     if (form() == nullptr) return;

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/control_ids.h"
+#include "platform/main_window.h"
 #include "tests/support/shown_store.h"
 
 namespace varlo::test {
@@ -27,7 +27,7 @@ TEST(ShellView, RefreshesTheCommandsWheneverHelpIsAskedFor) {
   t.project().projectFile.assign(kShopPath);
   t.project().dirty = 1;
   t.window.enableEntry(Command::Save, false);
-  t.view.showHelp(control::main::kTree);
+  t.view.showHelp(main_window::kTree);
   EXPECT_TRUE(t.window.entryEnabled(Command::Save));
 }
 
