@@ -20,10 +20,12 @@ class Check {
   }
 
  private:
-  // A list that is still to be walked: where it hangs, and the item that holds it.
+  // A list that is still to be walked: where it hangs, the item that holds it, and whether it stands in front of the
+  // root.
   struct List {
     StoreNode* head;
     StoreNode* owner;
+    bool inFront = false;
   };
 
   void fault(const std::string& words, const StoreNode* node) {
@@ -41,28 +43,42 @@ class Check {
   void checkRoot() {
     const StoreNode* root = project_.root;
     if (root == nullptr) return;
-    if (root->prev != nullptr) fault("the root has a prev", root);
+    if (root->prev != nullptr && firstInFront() == root) fault("the root has a prev", root);
     if (root->parent != nullptr) fault("the root has a parent", root);
+  }
+
+  // The first of those that the root was moved down past; the root where it was not.
+  StoreNode* firstInFront() {
+    StoreNode* first = project_.root;
+    std::size_t steps = project_.nodes.size();
+    while (first != nullptr && pooled(first->prev) && leadsTo(first->prev, first) && steps-- > 0) first = first->prev;
+    return first;
+  }
+  static bool leadsTo(const StoreNode* before, const StoreNode* node) {
+    return before != nullptr && !before->released && before->next == node;
   }
 
   // The walk goes by next and child alone, so that it can judge prev and parent.
   void checkTree() {
-    std::vector<List> lists{{project_.root, nullptr}};
+    StoreNode* first = firstInFront();
+    std::vector<List> lists{{first, nullptr, first != project_.root}};
     while (!lists.empty()) {
-      const List list = lists.back();
+      List list = lists.back();
       lists.pop_back();
       StoreNode* before = list.owner;
       for (StoreNode* node = list.head; node != nullptr; node = node->next) {
-        if (!checkNode(*node, before, list.owner)) return;
-        if (node->child != nullptr) lists.push_back({node->child, node});
+        if (node == project_.root) list.inFront = false;
+        if (!checkNode(*node, before, list)) return;
+        if (node->child != nullptr) lists.push_back({node->child, node, list.inFront});
         before = node;
       }
     }
   }
 
   // False when going on would not end.
-  bool checkNode(StoreNode& node, const StoreNode* before, const StoreNode* owner) {
-    ++report_.nodes;
+  bool checkNode(StoreNode& node, const StoreNode* before, const List& list) {
+    const StoreNode* owner = list.owner;
+    ++(list.inFront ? report_.inFront : report_.nodes);
     if (!reached_.insert(&node).second) {
       fault("a node is reached twice", &node);
       return false;

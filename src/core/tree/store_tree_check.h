@@ -17,12 +17,14 @@ struct StoreTreeReport {
   std::size_t strangePrev = 0;    // prev is not the node that the item hangs behind or below
   std::size_t strangeParent = 0;  // parent is not the category, shelf or list that holds the item
   std::size_t misplaced = 0;      // not a product, below a shelf, a list or a product
+  std::size_t inFront = 0;  // in front of the root, which was moved down past them, or below those; not in the tree
 };
 
-// Checks the tree of `project`. Rules: every node is reached once, lives and belongs to the pool; the
-// root has no prev and no parent; prev and parent name records of the pool or nothing; parent never
-// names a product; only items that a command made, or that a merge brought in, have strange links; the
-// project's references name records that live; the clipboard's node is linked nowhere.
+// Checks the tree of `project`, and what stands in front of its root. Rules: every node is reached once, lives and
+// belongs to the pool; the root has no parent, and no prev but one that leads back to it; prev and parent name
+// records of the pool or nothing; parent never names a product; only items that a command made, or that a merge
+// brought in, have strange links; the project's references name records that live; the clipboard's node is linked
+// nowhere.
 [[nodiscard]] StoreTreeReport StoreTreeCheck(const StoreProject& project);
 
 }  // namespace varlo

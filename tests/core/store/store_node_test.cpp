@@ -19,12 +19,6 @@ TEST(StoreNode, NewItemTextsGoByKind) {
   EXPECT_EQ(TraitsOf(NodeKind::List).newTitle, "New List");
 }
 
-TEST(StoreNode, ModifiedIsASignedByte) {
-  StoreNode node;
-  node.modified = static_cast<std::int8_t>(300);
-  EXPECT_EQ(node.modified, 44);
-}
-
 TEST(StoreNodeInit, ReleasesTextsAndZeroesLinks) {
   StoreNode other;
   StoreNode node;

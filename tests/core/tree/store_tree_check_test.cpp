@@ -79,6 +79,36 @@ TEST_F(StoreTreeCheckTest, FindsARootWithPrevOrParent) {
   expectFault("the root has a parent");
 }
 
+TEST_F(StoreTreeCheckTest, AcceptsARootThatWasMovedDownAndChecksWhatStandsInFrontOfIt) {
+  StoreNode* second = AddCategory(project, "Second");
+  AddProduct(project, "Cup", second);
+  AddCategory(project, "Third");
+  ASSERT_EQ(StoreNodeSwapWithNext(project, *home), 1);
+  ASSERT_EQ(StoreNodeSwapWithNext(project, *home), 1);
+  const StoreTreeReport report = StoreTreeCheck(project);
+  EXPECT_THAT(report.faults, testing::IsEmpty());
+  EXPECT_EQ(report.nodes, 4U);
+  EXPECT_EQ(report.inFront, 3U);
+  second->child->parent = ball;
+  expectFault("a parent is a product");
+}
+
+TEST_F(StoreTreeCheckTest, FindsAPrevOfTheRootThatDoesNotLeadBackToIt) {
+  StoreNode* second = AddCategory(project, "Second");
+  StoreNodeSwapWithNext(project, *home);
+  second->next = nullptr;
+  expectFault("the root has a prev");
+}
+
+TEST_F(StoreTreeCheckTest, FindsACircleInFrontOfTheRoot) {
+  StoreNode* second = AddCategory(project, "Second");
+  StoreNodeSwapWithNext(project, *home);
+  second->prev = home;
+  home->next = second;
+  expectFault("reached twice");
+  home->next = nullptr;
+}
+
 TEST_F(StoreTreeCheckTest, FindsAReferenceToAReleasedNode) {
   StoreNode* gone = project.nodes.allocate();
   project.nodes.release(*gone);

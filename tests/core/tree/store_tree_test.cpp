@@ -379,10 +379,12 @@ TEST_F(StoreTree, SwappingTheRootLeavesItTheRootBehindTheOther) {
   EXPECT_EQ(second->next, home);
   EXPECT_EQ(second->prev, nullptr);
   EXPECT_EQ(TreeText(project), whole + ",Third");
+  ExpectPlainTree(project);
   // The root moves on, and the other stays in front.
   EXPECT_EQ(StoreNodeSwapWithNext(project, *home), 1);
   EXPECT_EQ(TreeText(project), whole);
   EXPECT_EQ(second->next->next, home);
+  ExpectPlainTree(project);
   // Back, one by one.
   EXPECT_EQ(StoreNodeSwapWithNext(project, *second->next), 1);
   EXPECT_EQ(StoreNodeSwapWithNext(project, *second), 1);

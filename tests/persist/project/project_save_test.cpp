@@ -152,6 +152,11 @@ TEST_F(ProjectSaveTest, ABodyOf3089BytesIsTheLongestThatKeepsItsLineEnd) {
   EXPECT_THAT(SaveText(t), HasSubstr("\nBODY=" + std::string(3089, 'x') + "\nCOST=9\n"));
 }
 
+TEST_F(ProjectSaveTest, AMarkThatDoesNotFitItsByteIsWrittenAsWhatIsLeftOfIt) {
+  LoadCurrent(t, "NODE1=a\nMOD=300\nNODE1=b\nMOD=200\n");
+  EXPECT_THAT(SaveText(t), HasSubstr("NODE1=a\nSTATUS=0\nMOD=44\nNODE1=b\nSTATUS=0\nMOD=-56\n"));
+}
+
 TEST_F(ProjectSaveTest, ADeepTreeSaves) {
   StoreNode* parent = nullptr;
   for (int i = 0; i < 200000; ++i) {
