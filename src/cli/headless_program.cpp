@@ -1,7 +1,6 @@
 #include "cli/headless_program.h"
 
-#include "core/program/start_up.h"
-#include "persist/life/file_steps.h"
+#include "persist/life/start_up.h"
 #include "persist/project/project_load.h"
 #include "persist/project/project_paths.h"
 
@@ -9,7 +8,7 @@ namespace varlo {
 
 HeadlessProgram::HeadlessProgram(Machine& machine, Files& files)
     : files_(files), view_(machine), program_(files, *machine.clock, screen_, *machine.clipboard, view_) {
-  StartUp(program_, FileStartUpSteps());
+  StartUp(program_);
 }
 
 void HeadlessProgram::name(const std::string& project) {

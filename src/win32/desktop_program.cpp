@@ -1,6 +1,6 @@
 #include "win32/desktop_program.h"
 
-#include "core/program/start_up.h"
+#include "persist/life/start_up.h"
 #include "shell/browser/browser_detection.h"
 #include "win32/main_window.h"
 
@@ -10,7 +10,8 @@ DesktopProgram::DesktopProgram(Machine& machine)
     : program_(*machine.files, *machine.clock, screen_, *machine.clipboard, view_),
       shell_(program_, *machine.browsers) {
   view_.setShell(&shell_);
-  StartUp(program_, startSteps(*machine.browsers));
+  StartUp(program_);
+  detectBrowsers(program_, *machine.browsers);
 }
 
 DesktopProgram::~DesktopProgram() { view_.setShell(nullptr); }

@@ -15,7 +15,7 @@
 #include "generator/build/first_build_dialog.h"
 #include "generator/build/store_build_dialog.h"
 #include "generator/state/generator.h"
-#include "persist/life/file_steps.h"
+#include "persist/life/start_up.h"
 #include "persist/project/project_load.h"
 #include "persist/project/project_save.h"
 #include "platform/main_window.h"
@@ -41,7 +41,7 @@ void WithEngine(const Installation& installation, const std::function<void(Progr
   FakeScreen screen;
   View view;
   Program program(*machine.files, clock, screen, *machine.clipboard, view);
-  StartUp(program, FileStartUpSteps());
+  StartUp(program);
   ASSERT_EQ(ProjectLoad(program), 1);
   work(program);
 }

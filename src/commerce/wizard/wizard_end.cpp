@@ -6,8 +6,8 @@
 #include "core/program/program.h"
 #include "core/program/project_close.h"
 #include "core/program/scheme.h"
-#include "core/program/start_up.h"
 #include "core/store/card_entry.h"
+#include "core/store/user_variable.h"
 #include "persist/life/project_life.h"
 #include "persist/life/template_set.h"
 

@@ -3,7 +3,6 @@
 #include <string_view>
 
 #include "core/program/program.h"
-#include "core/program/start_up.h"
 #include "persist/life/project_life.h"
 
 namespace varlo {

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 #include "core/text/text.h"
 
@@ -14,6 +15,10 @@ struct AppConfig;
 
 inline constexpr std::size_t kFreightMethods = 3;
 inline constexpr std::size_t kFreightCells = 12;
+
+// The delivery methods of a store that names none.
+inline constexpr std::array<std::string_view, kFreightMethods> kDefaultMethodNames{
+    "Economy Air (2-3 Weeks)", "Express Courier (1-3 Days)", "Surface Mail (3-6 Weeks)"};
 
 struct FreightRecord {
   FreightRecord* next = nullptr;

@@ -65,4 +65,15 @@ void UserVariablesDeleteMarked(StoreProject& project) {
   project.variablesTail = kept;
 }
 
+void MakeDefaultVariable(StoreProject& project) {
+  if (project.variables != nullptr) return;
+  UserVariable* copyright = UserVariableInit(nullptr);
+  copyright->name.assign("$COPYRIGHT");
+  copyright->value.assign(
+      "Copyright \xA9"
+      "2000");
+  UserVariableAppend(project, copyright);
+  project.currentVariable = copyright;
+}
+
 }  // namespace varlo

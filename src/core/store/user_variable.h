@@ -35,6 +35,9 @@ void UserVariableListFree(StoreProject& project, UserVariable* head);
 // Puts `variable` at the tail of the project's list.
 void UserVariableAppend(StoreProject& project, UserVariable* variable);
 
+// Gives a project without variables the one that every store starts with.
+void MakeDefaultVariable(StoreProject& project);
+
 // Puts `variable` behind the project's current one; at the head of an empty list, at the tail when none is current.
 void UserVariableInsert(StoreProject& project, UserVariable* variable);
 

@@ -2,7 +2,6 @@
 
 #include "core/program/messages.h"
 #include "core/program/program.h"
-#include "core/program/start_up.h"
 #include "core/text/open_file.h"
 #include "core/text/paths.h"
 #include "core/tree/node_commands.h"
@@ -121,7 +120,15 @@ int ProjectOpenDialog(Program& program) {
   return ProjectOpenPath(program, *path, false);
 }
 
-PromptResult SavePrompt(Program& program) { return AskToSave(program, SaveWithBackup); }
+PromptResult SavePrompt(Program& program) {
+  if (program.project.dirty == 0) return PromptResult::Unasked;
+  const Answer answer = program.screen.messageBox({.text = message::kSavePrompt,
+                                                   .title = message::kSavePromptTitle,
+                                                   .buttons = Buttons::YesNo,
+                                                   .icon = Icon::Question});
+  if (answer != Answer::Yes) return PromptResult::Unasked;
+  return SaveWithBackup(program) ? PromptResult::Saved : PromptResult::Failed;
+}
 
 bool ProjectSaveNow(Program& program) {
   const bool result = SaveWithBackup(program);

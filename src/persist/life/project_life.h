@@ -7,7 +7,6 @@
 
 namespace varlo {
 
-enum class PromptResult;
 struct Program;
 
 // Makes the project "Projects\N" of the installation, with its folders, a root and the shipped
@@ -32,6 +31,9 @@ std::optional<std::string> ChooseProjectFile(Program& program, std::string_view 
 // Lets the user choose a project, offers to save the open one, and opens the chosen one. 1 when one was
 // opened.
 int ProjectOpenDialog(Program& program);
+
+// What became of the question whether to save: Unasked also stands for any answer but Yes.
+enum class PromptResult { Unasked, Failed, Saved };
 
 // Offers to save a changed project, and saves it with a backup on Yes.
 PromptResult SavePrompt(Program& program);

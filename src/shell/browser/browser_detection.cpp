@@ -5,7 +5,6 @@
 
 #include "core/program/program.h"
 #include "core/text/open_file.h"
-#include "persist/life/file_steps.h"
 #include "platform/browser_system.h"
 
 namespace varlo {
@@ -46,12 +45,6 @@ void detectBrowsers(Program& program, BrowserSystem& browsers) {
     config.browser = config.browserExplorer.isSet() ? config.browserExplorer : config.browserNetscape;
   }
   if (!explorer && !netscape && !config.browser.isSet()) config.browser.assign(usualBrowser(program.files));
-}
-
-StartUpSteps startSteps(BrowserSystem& browsers) {
-  StartUpSteps steps = FileStartUpSteps();
-  steps.detectBrowsers = [&browsers](Program& program) { detectBrowsers(program, browsers); };
-  return steps;
 }
 
 }  // namespace varlo

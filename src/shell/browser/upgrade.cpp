@@ -2,8 +2,8 @@
 
 #include "core/program/messages.h"
 #include "core/program/program.h"
-#include "core/program/start_up.h"
 #include "core/text/open_file.h"
+#include "persist/life/start_up.h"
 #include "shell/browser/browser.h"
 #include "shell/state/shell.h"
 
@@ -46,7 +46,7 @@ void launchUpgrade(Shell& shell) {
     program.screen.messageBox(
         {.text = message::kUpgradeError, .title = message::kUpgradeErrorTitle, .icon = Icon::Exclamation});
   }
-  ContinueAfterUpgrade(program, [&](Program&, const char* page) { openInBrowser(shell, page); });
+  ContinueAfterUpgrade(program);
 }
 
 }  // namespace varlo

@@ -3,8 +3,7 @@
 #include <array>
 
 #include "core/program/program.h"
-#include "core/program/start_up.h"
-#include "persist/life/file_steps.h"
+#include "persist/life/start_up.h"
 #include "persist/project/project_load.h"
 #include "shell/state/shell.h"
 #include "shell/state/state_display.h"
@@ -43,12 +42,6 @@ void showRest(Shell& shell) {
   refreshCommandStates(shell);
 }
 
-ShutDownSteps shutDownSteps(Shell& shell) {
-  ShutDownSteps steps = FileShutDownSteps();
-  steps.stopBuild = [&shell](Program&) { shell.generator.log.stopRequested = true; };
-  return steps;
-}
-
 }  // namespace
 
 void setUpMainWindow(Shell& shell, MainWindow& window) {
@@ -57,19 +50,23 @@ void setUpMainWindow(Shell& shell, MainWindow& window) {
   setTabLabels(window);
   setStatusParts(window);
   window.list().setColumns(itemListColumns());
-  StartUpInWindow(shell.program, {.loadProject = ProjectLoad,
-                                  .openPage = [&shell](Program&) { openTabPage(shell); },
-                                  .show = [&shell](Program&) { showRest(shell); }});
+  WaitCursorOn(shell.program);
+  ProjectLoad(shell.program);
+  openTabPage(shell);
+  WaitCursorOff(shell.program);
+  showRest(shell);
+  PostFirstCommand(shell.program);
 }
 
 void closeMainWindow(Shell& shell) {
-  ShutDownWindow(shell.program, shutDownSteps(shell));
+  shell.generator.log.stopRequested = true;
+  ShutDownWindow(shell.program);
   closeTabPage(shell);
   shell.mainWindow = nullptr;
 }
 
 void quit(Shell& shell) {
-  ShutDown(shell.program, shutDownSteps(shell));
+  ShutDown(shell.program);
   if (shell.mainWindow != nullptr) shell.mainWindow->end();
 }
 

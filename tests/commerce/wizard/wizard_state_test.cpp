@@ -5,7 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "core/program/start_up.h"
+#include "persist/life/start_up.h"
 #include "tests/support/project_text.h"
 
 namespace varlo {
@@ -66,7 +66,7 @@ TEST_F(WizardStartTest, WithoutATitleNothingIsOfferedNorInTheOtherModes) {
 }
 
 TEST_F(WizardStartTest, AFreshProgramWithoutNamedMethodsShowsTheThreeDefaults) {
-  StartUp(t.program, {});
+  StartUp(t.program);
   start();
   EXPECT_THAT(names(),
               ElementsAre("Economy Air (2-3 Weeks)", "Express Courier (1-3 Days)", "Surface Mail (3-6 Weeks)"));

@@ -54,6 +54,19 @@ TEST(UserVariable, CopyTakesNameValueAndMark) {
   delete copy;
 }
 
+TEST(UserVariable, AProjectWithoutAnyGetsTheNoticeOfItsRights) {
+  StoreProject project;
+  MakeDefaultVariable(project);
+  ASSERT_NE(project.variables, nullptr);
+  EXPECT_STREQ(project.variables->name.get(), "$COPYRIGHT");
+  EXPECT_EQ(project.variables->value.view(), std::string("Copyright \xA9") + "2000");
+  EXPECT_EQ(project.variablesTail, project.variables);
+  EXPECT_EQ(project.currentVariable, project.variables);
+  MakeDefaultVariable(project);
+  EXPECT_EQ(project.variables->next, nullptr);
+  UserVariableListFree(project, project.variables);
+}
+
 TEST(UserVariable, FreeingTheListClearsTheReferencesToItsRecords) {
   TestProgram t;
   StoreProject& project = t.project();

@@ -4,8 +4,8 @@
 
 #include "core/program/project_close.h"
 #include "core/program/scheme.h"
-#include "core/program/start_up.h"
 #include "persist/installation/config_file.h"
+#include "persist/life/start_up.h"
 #include "tests/support/project_text.h"
 #include "tests/support/tree.h"
 
@@ -485,7 +485,8 @@ TEST_F(ProjectOpenPathTest, AFileThatIsThereIsNotMadeNew) {
 TEST_F(ProjectOpenPathTest, AtStartAConfiguredProjectThatIsGoneGivesOneMessage) {
   t.files.put("config.ini", "varlo=http://server\nfile=C:\\gone.stp\n");
   ConfigRead(t.program, "config.ini");
-  StartUpInWindow(t.program, {.loadProject = ProjectLoad});
+  ProjectLoad(t.program);
+  PostFirstCommand(t.program);
   EXPECT_THAT(t.screen.boxes, ElementsAre(readError("C:\\gone.stp")));
   EXPECT_TRUE(project.projectFile.isNull());
   EXPECT_THAT(t.screen.posted, ElementsAre(Command::NewStore));

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "persist/life/start_up.h"
 #include "shell/browser/browser.h"
 #include "shell/state/shell.h"
 #include "tests/support/fake_browsers.h"
@@ -82,20 +83,11 @@ TEST_F(BrowserDetection, AFoundEntryWithoutAProgramStopsTheSearch) {
   EXPECT_EQ(chosen(), "");
 }
 
-TEST(StartSteps, DetectTheBrowsersWhereTheConfigurationNamesNone) {
-  TestProgram t;
-  FakeBrowsers browsers;
-  browsers.classes = {{"htmlfile\\DefaultIcon", "C:\\ie\\iexplore.exe,1"}};
-  StartUp(t.program, startSteps(browsers));
-  EXPECT_EQ(t.config().browser.view(), "C:\\ie\\iexplore.exe");
-}
-
-TEST(StartSteps, ReadTheConfigurationBeforeTheyDetect) {
-  TestProgram t;
-  FakeBrowsers browsers;
-  browsers.classes = {{"htmlfile\\DefaultIcon", "C:\\ie\\iexplore.exe,1"}};
+TEST_F(BrowserDetection, TheBrowserOfTheConfigurationStaysAndTheOthersAreOffered) {
   t.files.put("C:\\Varlo\\config.ini", "browser=D:\\mine.exe\n");
-  StartUp(t.program, startSteps(browsers));
+  browsers.classes = {{"htmlfile\\DefaultIcon", "C:\\ie\\iexplore.exe,1"}};
+  StartUp(t.program);
+  detect();
   EXPECT_EQ(t.config().browser.view(), "D:\\mine.exe");
   EXPECT_EQ(t.config().browserExplorer.view(), "C:\\ie\\iexplore.exe");
 }

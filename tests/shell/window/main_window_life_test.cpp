@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "core/program/messages.h"
-#include "persist/life/file_steps.h"
 #include "shell/tabs/inventory_page.h"
 #include "shell/window/commands.h"
 #include "shell/window/toolbar.h"

@@ -8,8 +8,8 @@
 
 #include <gtest/gtest.h>
 
-#include "core/program/start_up.h"
 #include "generator/items/html_text.h"
+#include "persist/life/start_up.h"
 #include "tests/support/shell_checks.h"
 #include "tests/support/shown_store.h"
 
@@ -399,7 +399,7 @@ class RandomWalk {
   void setUp() {
     putStores();
     t_.files.putFolder("C:\\Varlo\\Web");
-    StartUp(t_.program, {});
+    StartUp(t_.program);
     t_.config().orderServer.assign("orders.example");
     t_.config().browser.assign("C:\\Browser\\browser.exe");
     t_.project().projectFile.assign(kShopPath);
