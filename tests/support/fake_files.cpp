@@ -26,6 +26,22 @@ bool matches(std::string_view name, std::string_view mask) {
   return (mask[0] == '?' || mask[0] == name[0]) && matches(name.substr(1), mask.substr(1));
 }
 
+// The path without "." and "..", which lead from folder to folder but never above the drive.
+std::string withoutDots(const std::string& path) {
+  std::string plain;
+  for (std::size_t at = 0; at < path.size();) {
+    const std::size_t end = std::min(path.find('\\', at), path.size());
+    const std::string part = path.substr(at, end - at);
+    at = end + 1;
+    if (part == "..") {
+      plain.resize(std::max<std::size_t>(parentOf(plain).size(), 2));
+    } else if (part != ".") {
+      plain += plain.empty() ? part : "\\" + part;
+    }
+  }
+  return plain;
+}
+
 }  // namespace
 
 std::string FakeFiles::full(std::string_view path) {
@@ -34,7 +50,7 @@ std::string FakeFiles::full(std::string_view path) {
   if (name.size() < 2 || name[1] != ':') name = "C:\\Varlo\\" + name;
   name = SingleBackSlashes(name);
   while (name.ends_with('\\')) name.pop_back();
-  return name;
+  return withoutDots(name);
 }
 
 std::string FakeFiles::keyOf(std::string_view path) { return lower(full(path)); }

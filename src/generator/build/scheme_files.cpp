@@ -28,7 +28,7 @@ void CopySchemeFiles(Generator& generator, std::string_view directory) {
   if (scheme == nullptr) return;
   for (const StringItem* file = scheme->files; file != nullptr; file = file->next) {
     const std::string_view entry = file->text.view();
-    if (program.files.copy(entry, targetOf(directory, entry), true)) continue;
+    if (StaysBelow(PathName(entry)) && program.files.copy(entry, targetOf(directory, entry), true)) continue;
     LogError(generator.log, FillMessage(message::kSchemeCopyError, entry));
   }
 }

@@ -14,9 +14,14 @@
 namespace varlo {
 namespace {
 
+// Below the web directory.
+constexpr std::string_view kPictureFolder = "img\\";
+
 std::string targetOf(const Program& program, std::string_view name) {
-  return std::string(program.project.webDir.view()).append("\\img\\").append(name);
+  return std::string(program.project.webDir.view()).append("\\").append(kPictureFolder).append(name);
 }
+
+bool staysInSite(std::string_view name) { return StaysBelow(std::string(kPictureFolder).append(name)); }
 
 // The path as it is copied to: in lower case where links are, with single back slashes.
 void settle(const Program& program, std::string& target) {
@@ -51,14 +56,18 @@ void copyPicture(Generator& generator, StoreNode& node, const StoreNode& page) {
   if (!node.image.isSet() || isOutside(node.image.view())) return;
   const std::string image = SingleBackSlashes(BackSlashes(node.image.view()));
   if (image != node.image.view()) node.image.assign(std::string_view(image));
-  std::string target = targetOf(program, PathName(image));
+  const std::string_view name = PathName(image);
+  std::string target = targetOf(program, name);
   if (FileExists(program.files, image) == 0) {
     LogWarning(generator.log, FillMessage(message::kImageReadWarning, {page.fileName.view(), image}));
     return;
   }
   settle(program, target);
-  if (program.files.copy(image, target, true)) return;
-  LogError(generator.log, failureOf(program, page, image, target));
+  if (!staysInSite(name)) {
+    LogError(generator.log, FillMessage(message::kImageCopyError, {page.fileName.view(), image, target}));
+  } else if (!program.files.copy(image, target, true)) {
+    LogError(generator.log, failureOf(program, page, image, target));
+  }
 }
 
 void copyLinkedPicture(Generator& generator, const StoreNode& node, const StoreNode& page) {
@@ -70,9 +79,10 @@ void copyLinkedPicture(Generator& generator, const StoreNode& node, const StoreN
     LogWarning(generator.log, FillMessage(message::kImageLinkReadWarning, {page.fileName.view(), link}));
     return;
   }
-  std::string target = BackSlashes(targetOf(program, link.substr(link.rfind('/') + 1)));
+  const std::string_view name = link.substr(link.rfind('/') + 1);
+  std::string target = BackSlashes(targetOf(program, name));
   settle(program, target);
-  if (program.files.copy(source, target, true)) return;
+  if (staysInSite(name) && program.files.copy(source, target, true)) return;
   LogError(generator.log, FillMessage(message::kImageLinkCopyError, {page.fileName.view(), source, target}));
 }
 

@@ -8,7 +8,8 @@ struct StoreNode;
 
 // Copies the picture and the linked picture of `node` into the folder "img" below the web directory;
 // `page` is the node whose page is being built, and names it in messages. A picture that is missing is a
-// warning, one that can't be copied an error; neither stops anything. Always 1.
+// warning, one that can't be copied an error, as is one whose copy would lie outside of the web directory; neither
+// stops anything. Always 1.
 // Deliberate: the two halves tell an outside address in different ways ("http" in front, "//" anywhere),
 // take the file's name behind different slashes, and only the first tells why a copy failed. The slashes
 // in `image` are turned in the node itself, which does not count as a change of the project.

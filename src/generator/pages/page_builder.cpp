@@ -2,6 +2,7 @@
 
 #include "core/program/program.h"
 #include "core/text/open_file.h"
+#include "core/text/paths.h"
 #include "core/tree/store_tree.h"
 #include "generator/items/index_file.h"
 #include "generator/items/node_images.h"
@@ -70,10 +71,15 @@ bool PageBuilder::fill(const PageTemplate& source, StoreNode& node, const std::s
   return false;
 }
 
+FileHandle PageBuilder::createFile(const StoreNode& node) {
+  if (!StaysBelow(node.fileName.view())) return kNoFile;
+  path_.assign(generator_.program.project.webDir.view()).append("\\").append(node.fileName.view());
+  return generator_.program.files.createOver(path_);
+}
+
 int PageBuilder::write(StoreNode& node, const TextSigns::Found& found) {
   Files& files = generator_.program.files;
-  path_.assign(generator_.program.project.webDir.view()).append("\\").append(node.fileName.view());
-  OpenFile file(files, files.createOver(path_));
+  OpenFile file(files, createFile(node));
   if (!file.isOpen()) {
     ErrorBox(generator_.program, message::kPageCreateError);
     return 0;

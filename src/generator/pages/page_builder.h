@@ -7,6 +7,7 @@
 #include "generator/items/item_values.h"
 #include "generator/template/quick_page.h"
 #include "generator/template/template_source.h"
+#include "platform/files.h"
 
 namespace varlo {
 
@@ -23,6 +24,7 @@ class PageBuilder {
   [[nodiscard]] const std::string* takeShelf(const PageTemplate& source, StoreNode& node);
   void appendItem(const PageTemplate& source, StoreNode& item, const StoreNode& page);
   bool fill(const PageTemplate& source, StoreNode& node, const std::string* shelf);
+  [[nodiscard]] FileHandle createFile(const StoreNode& node);
   int write(StoreNode& node, const TextSigns::Found& found);
 
   Generator& generator_;

@@ -49,6 +49,27 @@ TEST_F(SchemeFiles, DoubledBackSlashesOfTheTargetBecomeOne) {
   EXPECT_THAT(t.files.log, ElementsAre("copy C:\\Varlo\\img\\a.gif to c:\\web\\a.gif"));
 }
 
+TEST_F(SchemeFiles, TheyMayComeFromAnywhere) {
+  t.files.put("C:\\elsewhere\\a.gif", "a");
+  addFile("..\\elsewhere\\a.gif");
+  CopySchemeFiles(t.generator, "C:\\Web");
+  EXPECT_EQ(t.site("a.gif"), "a");
+}
+
+TEST_F(SchemeFiles, OneWhoseTargetLeadsOutOfTheSiteCannotBeCopied) {
+  for (const char* entry : {"../a.gif", "../../a.gif", "img\\..", "../Varlo/../../a.gif", "/a.gif"}) addFile(entry);
+  t.files.put("C:\\a.gif", "old");
+  t.files.put("C:\\Varlo\\..\\..\\a.gif", "new");
+  CopySchemeFiles(t.generator, "C:\\Web\\site");
+  EXPECT_THAT(t.files.log, testing::IsEmpty());
+  EXPECT_THAT(t.window.lines, ElementsAre("error: scheme: copying schema file '../a.gif'",
+                                          "error: scheme: copying schema file '../../a.gif'",
+                                          "error: scheme: copying schema file 'img\\..'",
+                                          "error: scheme: copying schema file '../Varlo/../../a.gif'",
+                                          "error: scheme: copying schema file '/a.gif'"));
+  EXPECT_EQ(t.generator.log.errorCount, 5);
+}
+
 TEST_F(SchemeFiles, OneThatFailsIsLoggedAndTheOthersAreCopied) {
   t.files.put("C:\\Varlo\\img\\b.gif", "b");
   addFile("img\\a.gif");

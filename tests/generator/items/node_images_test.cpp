@@ -216,6 +216,45 @@ TEST_F(NodeImages, ALinkWithBackSlashesOnlyTakesItsWholePathAlong) {
   expectCounts(1, 0);
 }
 
+// Where copies may go.
+
+TEST_F(NodeImages, APictureMayComeFromAnywhere) {
+  t.files.put("C:\\Varlo\\..\\elsewhere\\Up.gif", "up");
+  copy("..\\elsewhere\\Up.gif", "../elsewhere/Up.gif");
+  EXPECT_EQ(t.site("img\\up.gif"), "up");
+  expectCounts(0, 0);
+}
+
+TEST_F(NodeImages, ALinkThatLeadsOutOfTheWebDirectoryCannotBeCopied) {
+  t.files.put("C:\\Up.gif", "up");
+  t.files.put("C:\\Out.gif", "out");
+  for (const char* link : {"..\\..\\Up.gif", "..\\..\\..\\Up.gif", "..\\Varlo\\..\\..\\..\\Up.gif"}) {
+    t.files.put(link, "up");
+    copy(nullptr, link);
+    expectCounts(1, 0);
+    ASSERT_EQ(t.window.lines.size(), 1U) << link;
+    EXPECT_TRUE(t.window.lines[0].starts_with("error: 1.htm: unable to copy image link file: '")) << link;
+    EXPECT_THAT(t.files.log, IsEmpty()) << link;
+  }
+  EXPECT_EQ(*t.files.content("C:\\Up.gif"), "up");
+}
+
+TEST_F(NodeImages, ALinkThatStaysBelowTheWebDirectoryIsCopied) {
+  t.files.put("C:\\Up.gif", "up");
+  copy(nullptr, "..\\Up.gif");
+  EXPECT_EQ(t.site("up.gif"), "up") << "beside the folder of the pictures";
+  expectCounts(0, 0);
+}
+
+TEST_F(NodeImages, APictureWhoseNameIsThatOfAStreamCannotBeCopied) {
+  t.files.put("C:\\Varlo\\a.htm:b.gif", "x");
+  copy("a.htm:b.gif");
+  EXPECT_THAT(t.window.lines, ElementsAre("error: 1.htm: unable to copy image file: 'a.htm:b.gif' to "
+                                          "'c:\\web\\img\\a.htm:b.gif'"));
+  EXPECT_THAT(t.files.log, IsEmpty());
+  expectCounts(1, 0);
+}
+
 TEST_F(NodeImages, ALinkedPictureThatCannotBeWrittenIsOneErrorWhateverTheCause) {
   for (const FileError error : {FileError::PathNotFound, FileError::AccessDenied, FileError::Other}) {
     failCopies(error);

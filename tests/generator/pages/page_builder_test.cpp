@@ -59,6 +59,41 @@ TEST_F(PageBuilderTest, AnItemOfAShelfOrAListHasNoPageNoLineAndNoProgress) {
   EXPECT_EQ(t.site("varlo.idx"), "; Varlo Index File\n; v1.07\n");
 }
 
+// Where a page goes.
+
+TEST_F(PageBuilderTest, APageMayLieInAFolderBelowTheWebDirectory) {
+  t.files.putFolder("C:\\Web\\toys\\red");
+  put("category.htm", "home");
+  for (const char* name : {"toys\\red\\1.htm", "toys/red/2.htm", "toys\\..\\toys\\3.htm"}) {
+    t.home->fileName.assign(name);
+    EXPECT_EQ(BuildPage(t.generator, t.home), 1) << name;
+    EXPECT_EQ(t.site(name), "home");
+  }
+  EXPECT_EQ(t.site("toys\\3.htm"), "home");
+  EXPECT_THAT(t.screen.boxes, IsEmpty());
+}
+
+TEST_F(PageBuilderTest, APageWhoseNameLeadsOutOfTheWebDirectoryCannotBeCreated) {
+  put("category.htm", "home");
+  t.files.putFolder("C:\\Web\\toys");
+  const std::vector<std::string> before = t.files.names();
+  t.home->modified = 1;
+  for (const char* name : {"..\\out.htm", "../out.htm", "toys\\..\\..\\out.htm", "..\\Web\\back.htm", "\\out.htm",
+                           "/out.htm", "C:\\out.htm", "C:out.htm", "\\\\server\\share\\out.htm", "1.htm:stream"}) {
+    t.files.log.clear();
+    t.screen.boxes.clear();
+    t.home->fileName.assign(name);
+    EXPECT_EQ(BuildPage(t.generator, t.home), 0) << name;
+    ASSERT_EQ(t.screen.boxes.size(), 1U) << name;
+    EXPECT_TRUE(t.screen.boxes[0].text.starts_with("ERROR R107: Unable to open HTML output file\r\n"));
+    EXPECT_THAT(t.files.log, IsEmpty()) << name;
+  }
+  EXPECT_EQ(t.files.names(), before);
+  EXPECT_THAT(t.window.lines, IsEmpty());
+  EXPECT_EQ(t.generator.log.errorCount, 0) << "as for any page that cannot be created";
+  EXPECT_EQ(t.home->modified, 1);
+}
+
 // What is told.
 
 TEST_F(PageBuilderTest, EachPageStepsTheProgressShowsItsNameAndCounts) {

@@ -65,6 +65,47 @@ TEST_F(TemplateSourceTest, APreviewOfASchemeTakesThemFromItsSet) {
   EXPECT_EQ(of(NodeKind::Product, "x-$.htm"), "dollar") << "each dollar sign of the path is replaced";
 }
 
+TEST_F(TemplateSourceTest, ATemplateMayLieInAFolderBelowTheProjectsOwn) {
+  t.files.put(kShop + "special\\a.htm", "special");
+  for (const char* name : {"special\\a.htm", "special/a.htm", "special\\..\\special\\a.htm"}) {
+    EXPECT_EQ(of(NodeKind::Product, name), "special") << name;
+  }
+}
+
+TEST_F(TemplateSourceTest, AFileOutsideIsNoTemplateAsIfItWereMissing) {
+  t.files.put(kShop + "product.htm", "former");
+  t.files.put(kShop + "..\\Shop.stp", "the project");
+  t.files.put("C:\\Varlo\\config.ini", "proxy=secret");
+  for (const char* name : {"..\\Shop.stp", "../Shop.stp", "..\\..\\..\\config.ini", "a\\..\\..\\Shop.stp",
+                           "..\\Template\\product.htm", "\\product.htm", "C:\\Varlo\\config.ini"}) {
+    EXPECT_EQ(of(NodeKind::Product), "former");
+    EXPECT_EQ(of(NodeKind::Product, name), "former") << name;
+    EXPECT_STREQ(t.program.slots[kSlotTemplate].text(), "former");
+  }
+  EXPECT_EQ(this->name(0), kShop + "product.htm");
+  EXPECT_EQ(this->name(1), "") << "no file outside is remembered";
+  EXPECT_EQ(t.files.openHandles(), 0U);
+}
+
+TEST_F(TemplateSourceTest, WithoutAFormerOneAFileOutsideIsAnEmptyTemplate) {
+  t.files.put(kShop + "..\\Shop.stp", "the project");
+  EXPECT_EQ(of(NodeKind::Product, "..\\Shop.stp"), "");
+}
+
+TEST_F(TemplateSourceTest, APreviewOfASchemeReadsNothingOutsideOfItsSet) {
+  t.generator.useSetTemplates = true;
+  t.scheme().directory.assign("classic");
+  t.files.put("C:\\Varlo\\config.ini", "proxy=secret");
+  t.files.put(kSet + "modern\\product.htm", "modern");
+  t.files.put(kSet + "classic\\product.htm", "classic");
+  EXPECT_EQ(of(NodeKind::Product), "classic");
+  for (const char* name : {"..\\modern\\product.htm", "..\\..\\config.ini", "..\\..\\template\\product.htm"}) {
+    EXPECT_EQ(of(NodeKind::Product, name), "classic") << name;
+  }
+  t.scheme().directory.assign("..");
+  EXPECT_EQ(of(NodeKind::Product, "config.ini"), "classic");
+}
+
 TEST_F(TemplateSourceTest, LinesThatBeginWithASemicolonAreDropped) {
   t.files.put(kShop + "product.htm", ";one\r\ntwo\r\n ;three\n;four\nfive");
   EXPECT_EQ(read(*t.ball), "two\r\n ;three\nfive");
