@@ -11,14 +11,17 @@
 //   S C U V     title and currency of the store, account and server
 //   G flags     letters: l keeps the case of links, d leaves the directory out, n is without a scheme, b
 //               without a build window, s stops the walk, p is a preview of the scheme
+//   * N         texts from here on are longer by N bytes, a character's number
 //   P N, Q N    node N becomes the parent, or the previous node, of the last one
 #include <array>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/program/scheme.h"
 #include "core/store/user_variable.h"
+#include "core/text/text_search.h"
 #include "core/tree/store_tree.h"
 #include "generator/build/user_variables.h"
 #include "generator/pages/page_walk.h"
@@ -30,6 +33,7 @@ namespace varlo::fuzz {
 namespace {
 
 constexpr std::size_t kMostNodes = 24;
+constexpr std::string_view kSite = "C:\\web\\";
 
 struct Field {
   char letter;
@@ -69,6 +73,7 @@ class Shop {
     t_.project().projectScheme = t_.config().schemeStyles = SchemeInit(nullptr);
     t_.files.putFolder("C:\\web\\img");
     t_.files.put("C:\\p\\a.gif", "picture");
+    t_.files.put("C:\\a.gif", "picture");
     generator_.log.buildWindow = &window_;
     for (std::size_t at = 0; at < input.size();) {
       const std::size_t end = std::min(input.find('~', at), input.size());
@@ -76,6 +81,7 @@ class Shop {
       at = end + 1;
     }
     if (stepByStep) addVariable("<>").value.release();
+    for (const std::string& name : t_.files.names()) given_.insert(name);
   }
 
   void build() {
@@ -101,6 +107,10 @@ class Shop {
     all.append(std::to_string(generator_.log.warningCount)).append(" ");
     all.append(std::to_string(generator_.pageCounter)).append("\n").append(generator_.scratch);
     Require(t_.files.openHandles() == 0, "no file is left open");
+    for (const std::string& name : t_.files.names()) {
+      Require(EqualsNoCase(name.substr(0, kSite.size()), kSite) || given_.contains(name),
+              "nothing is written outside of the site");
+    }
     return all;
   }
 
@@ -111,6 +121,12 @@ class Shop {
     if (what == 'v') return addNamed(rest);
     if (what == '@') return setSlot(rest);
     if (what == 'G') return setFlags(rest);
+    if (what == '*') return setLength(rest);
+    takeText(what, std::string(rest).append(length_, '.'));
+    if ((what == 'P' || what == 'Q') && !nodes_.empty()) setLink(*nodes_.back(), what, rest);
+  }
+
+  void takeText(char what, std::string_view rest) {
     StoreProject& project = t_.project();
     if (what == 'S') project.storeTitle.assign(rest);
     if (what == 'C') project.currency.assign(rest);
@@ -120,7 +136,6 @@ class Shop {
     StoreNode& node = *nodes_.back();
     if (what >= '1' && what <= '6') node.field[static_cast<std::size_t>(what - '1')].assign(rest);
     if (what >= 'A' && what <= 'F' && what != 'C') node.label[static_cast<std::size_t>(what - 'A')].assign(rest);
-    if (what == 'P' || what == 'Q') setLink(node, what, rest);
     for (const Field& field : kFields) {
       if (field.letter == what) (node.*field.text).assign(rest);
     }
@@ -184,14 +199,16 @@ class Shop {
     if (equals == std::string_view::npos) {
       value.release();
     } else {
-      value.assign(rest.substr(equals + 1));
+      value.assign(std::string(rest.substr(equals + 1)).append(length_, '.'));
     }
   }
+
+  void setLength(std::string_view rest) { length_ = rest.empty() ? 0 : static_cast<unsigned char>(rest.front()); }
 
   void setSlot(std::string_view rest) {
     if (rest.empty() || t_.project().projectScheme == nullptr) return;
     const auto number = static_cast<unsigned char>(rest.front() - 'a') % kSchemeSlots;
-    t_.project().projectScheme->slot[number].assign(rest.substr(1));
+    t_.project().projectScheme->slot[number].assign(std::string(rest.substr(1)).append(length_, '.'));
   }
 
   void setFlags(std::string_view flags) {
@@ -219,6 +236,8 @@ class Shop {
   Window window_;
   std::vector<StoreNode*> nodes_;
   std::vector<StoreNode*> places_;  // the true parent of each
+  std::set<std::string> given_;     // files that were there before
+  std::size_t length_ = 0;          // what texts are longer by
 };
 
 void comparePages(std::string_view input) {
