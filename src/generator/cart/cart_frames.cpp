@@ -66,11 +66,11 @@ void replaceServer(Generator& generator, std::string& text) {
 void replaceLongTexts(Generator& generator, std::string& text) {
   WorkingText working;
   BuildFreightExpression(generator.program.project, working);
-  ReplaceFirst(text, "$FREIGHT", working.text);
+  ReplaceSome(generator, 1, text, "$FREIGHT", working.text, kRegisterName);
   BuildOrderText(generator, working);
-  ReplaceFirst(text, "$FORM", working.text);
+  ReplaceSome(generator, 1, text, "$FORM", working.text, kRegisterName);
   BuildConfirmText(generator, working);
-  ReplaceFirst(text, "$CONFIRM", working.text);
+  ReplaceSome(generator, 1, text, "$CONFIRM", working.text, kRegisterName);
 }
 
 }  // namespace
@@ -112,8 +112,8 @@ int WriteRegister(Generator& generator) {
   replaceHeadings(generator, text);
   replaceServer(generator, text);
   replaceLongTexts(generator, text);
-  ReplaceFour(text, "$USER", AccountUser(generator.program.config));
-  ReplaceFour(text, "$VERSION", kProductVersion);
+  ReplaceSome(generator, 4, text, "$USER", AccountUser(generator.program.config), kRegisterName);
+  ReplaceSome(generator, 4, text, "$VERSION", kProductVersion, kRegisterName);
   ReplaceEvery(generator, text, "$CURRENCY", generator.program.project.currency.view(), kRegisterName);
   return finishCartFile(generator, text, kRegisterName);
 }

@@ -41,15 +41,12 @@ void replaceCards(Generator& generator, WorkingText& working) {
 
 void encodeQuotes(std::string& text) {
   std::string encoded;
-  encoded.reserve(text.size());
-  for (const char c : text) {
-    if (c == '"') {
-      encoded += "%22";
-    } else {
-      encoded += c;
-    }
+  std::size_t done = 0;
+  for (std::size_t at = text.find('"'); at != std::string::npos; at = text.find('"', done)) {
+    encoded.append(text, done, at - done).append("%22");
+    done = at + 1;
   }
-  text = std::move(encoded);
+  text = std::move(encoded.append(text, done));
 }
 
 // What both previews do once the owner's texts are in place.
@@ -60,8 +57,8 @@ int finishPreview(Generator& generator, std::string& text, ApplyColours applyCol
     return 0;
   }
   applyColours(generator, text, kPreviewName);
-  ReplaceFour(text, "$USER", AccountUser(program.config));
-  ReplaceFour(text, "$VERSION", kProductVersion);
+  ReplaceSome(generator, 4, text, "$USER", AccountUser(program.config), kPreviewName);
+  ReplaceSome(generator, 4, text, "$VERSION", kProductVersion, kPreviewName);
   if (hasCurrency) ReplaceEvery(generator, text, "$CURRENCY", program.project.currency.view(), kPreviewName);
   ApplyCartColours(generator, text, kPreviewName);
   return WriteGeneratedFile(program, OutputPath(program.project, kPreviewName), text);

@@ -62,6 +62,9 @@ class Address {
   std::string turned_;
 };
 
+// Whether a table is longer than a page can be, so that nothing more need be added to it.
+bool isTooLong(const std::string& table) { return table.size() > kLongestText; }
+
 std::size_t bulletOf(const StoreNode& node) {
   return node.kind == NodeKind::Category ? kBulletCategory : kBulletOther;
 }
@@ -104,7 +107,7 @@ std::string ProductTableTwo(const ItemValues& values, const StoreNode& node) {
   const std::size_t middle = (total + 1) / 2;
   std::string table = "<table width=100% border=0 cellspacing=1><tr><td valign=top><font size=-1>";
   std::size_t shown = 0;
-  for (const StoreNode* child = node.child; child != nullptr; child = child->next) {
+  for (const StoreNode* child = node.child; child != nullptr && !isTooLong(table); child = child->next) {
     if (!IsInProductTables(*child)) continue;
     if (shown == middle) table += kColumn;
     AppendBullet(table, BulletName(values, bulletOf(*child)));
@@ -117,7 +120,7 @@ std::string ProductTableTwo(const ItemValues& values, const StoreNode& node) {
 
 std::string ProductTableOne(const ItemValues& values, const StoreNode& node) {
   std::string table = "<table>";
-  for (const StoreNode* child = node.child; child != nullptr; child = child->next) {
+  for (const StoreNode* child = node.child; child != nullptr && !isTooLong(table); child = child->next) {
     if (IsInProductTables(*child)) NodeRow(table, values, *child, false);
   }
   return table += "</table>\n";

@@ -50,7 +50,7 @@ void NodeRow(std::string& text, const ItemValues& values, const StoreNode& node,
 void OwnRow(std::string& text, const ItemValues& values, const StoreNode& node, bool subindex);
 
 // The two product tables of a node's children: $PRODUCT2 and $PRODUCTS2 in two columns, $PRODUCT and
-// $PRODUCTS in one.
+// $PRODUCTS in one. Longer than a page can be, they are not complete.
 [[nodiscard]] std::string ProductTableTwo(const ItemValues& values, const StoreNode& node);
 [[nodiscard]] std::string ProductTableOne(const ItemValues& values, const StoreNode& node);
 

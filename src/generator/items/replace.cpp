@@ -1,6 +1,7 @@
 #include "generator/items/replace.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <vector>
 
 namespace varlo {
@@ -8,12 +9,10 @@ namespace {
 
 constexpr std::size_t kNone = std::string::npos;
 
+bool isAngle(char c) { return c == '<' || c == '>'; }
+
 // How much may be put in for keys that only came about at joints.
 constexpr std::size_t kMostAtJoints = 4 * 1024 * 1024;
-
-// Where to search on for `key` behind a replacement at `at`, with the results of a search from the front:
-// what is left in front of that cannot have changed.
-std::size_t searchBehind(std::size_t at, std::string_view key) { return at < key.size() ? 0 : at - key.size() + 1; }
 
 // A text in two parts: what is done, and what still lies ahead. Bytes go from one to the other at the seam,
 // so that a change costs no more than its own bytes, however long the text is.
@@ -44,11 +43,19 @@ class Seam {
     done_.resize(done_.size() - bytes);
     return bytes;
   }
+  // Puts the value in the place of the key that lies `at` bytes ahead. Gives how many bytes ahead can be searched
+  // with other results than before; those in front of them cannot have become a key.
+  std::size_t replace(std::size_t at, std::string_view key, std::string_view value) {
+    pass(at);
+    drop(key.size());
+    push(value);
+    return value.size() + takeBack(key.size() - 1);
+  }
   [[nodiscard]] std::string whole() { return std::move(done_.append(ahead())); }
 
  private:
   void makeRoom(std::size_t bytes) {
-    const std::size_t room = bytes + ahead_.size();
+    const std::size_t room = bytes + ahead_.size() / 4;
     ahead_.insert(0, room, '\0');
     begin_ += room;
   }
@@ -58,12 +65,16 @@ class Seam {
   std::size_t begin_ = 0;  // of what lies ahead
 };
 
-// Whether the value in the place of every key adds more than a text may grow by.
-bool growsTooMuch(const std::string& text, std::string_view key, std::string_view value) {
-  if (value.size() <= key.size()) return false;
+// Whether a text gets too long when so many keys become the value.
+bool growsTooLong(std::size_t size, std::size_t count, std::string_view key, std::string_view value) {
+  return value.size() > key.size() && size + count * (value.size() - key.size()) > kLongestText;
+}
+
+// The same with every key of the text.
+bool growsTooLong(const std::string& text, std::string_view key, std::string_view value) {
   std::size_t count = 0;
   for (std::size_t at = text.find(key); at != kNone; at = text.find(key, at + key.size())) ++count;
-  return count * (value.size() - key.size()) > kLongestText;
+  return growsTooLong(text.size(), count, key, value);
 }
 
 void replaceForward(std::string& text, std::string_view key, std::string_view value) {
@@ -79,10 +90,14 @@ void replaceForward(std::string& text, std::string_view key, std::string_view va
 // The angle brackets in what is done of a text, each found once.
 class Angles {
  public:
+  // For a text of which nothing is done yet: no more room is needed than for its own.
+  explicit Angles(std::string_view text) {
+    places_.reserve(static_cast<std::size_t>(std::count_if(text.begin(), text.end(), isAngle)));
+  }
   // Looks through what was done since the last call.
   void follow(const std::string& done) {
     for (; seen_ < done.size(); ++seen_) {
-      if (done[seen_] == '<' || done[seen_] == '>') places_.push_back(seen_);
+      if (isAngle(done[seen_])) places_.push_back(static_cast<std::uint32_t>(seen_));
     }
   }
   // Forgets what is no longer done.
@@ -95,7 +110,7 @@ class Angles {
   [[nodiscard]] bool empty() const { return places_.empty(); }
 
  private:
-  std::vector<std::size_t> places_;
+  std::vector<std::uint32_t> places_;
   std::size_t seen_ = 0;
 };
 
@@ -116,8 +131,8 @@ class NextGreater {
 };
 
 Replaced removeTagAware(std::string& text, std::string_view key) {
+  Angles angles(text);
   Seam seam(std::move(text));
-  Angles angles;
   NextGreater greater;
   Replaced result = Replaced::Done;
   for (std::size_t at = 0; (at = seam.ahead().find(key)) != kNone;) {
@@ -151,33 +166,33 @@ std::size_t ReplaceFirst(std::string& text, std::string_view key, const Value& v
   return at + value->size();
 }
 
-void ReplaceUpTo(int times, std::string& text, std::string_view key, const Value& value) {
-  if (!value || key.empty()) return;
-  std::size_t from = 0;
-  for (int i = 0; i < times; ++i) {
-    const std::size_t at = text.find(key, from);
-    if (at == kNone) return;
-    text.replace(at, key.size(), *value);
-    from = searchBehind(at, key);
+Replaced ReplaceUpTo(int times, std::string& text, std::string_view key, const Value& value) {
+  if (!value || key.empty() || text.find(key) == kNone) return Replaced::Done;
+  Seam seam(std::move(text));
+  Replaced result = Replaced::Done;
+  for (std::size_t at = 0; times > 0 && (at = seam.ahead().find(key)) != kNone; --times) {
+    if (growsTooLong(seam.size(), 1, key, *value)) {
+      result = Replaced::Endless;
+      break;
+    }
+    seam.replace(at, key, *value);
   }
+  text = seam.whole();
+  return result;
 }
 
 // A value that does not hold the key can still make it at its joints to the text, and a long one can do so
 // for longer than anyone can wait.
 Replaced ReplaceAll(std::string& text, std::string_view key, const Value& value) {
   if (!value || key.empty() || text.find(key) == kNone) return Replaced::Done;
-  if (value->find(key) != kNone || growsTooMuch(text, key, *value)) return Replaced::Endless;
-  const std::size_t limit = text.size() + kLongestText;
+  if (value->find(key) != kNone || growsTooLong(text, key, *value)) return Replaced::Endless;
   Seam seam(text);
   std::size_t fresh = 0;  // how much of what lies ahead can hold keys that were not in the text
   std::size_t made = 0;   // bytes put in for such keys, by a value that is no shorter than they are
   for (std::size_t at = 0; (at = seam.ahead().find(key)) != kNone;) {
     if (at < fresh && value->size() >= key.size()) made += value->size();
-    if (made > kMostAtJoints || seam.size() > limit) return Replaced::Endless;
-    seam.pass(at);
-    seam.drop(key.size());
-    seam.push(*value);
-    fresh = value->size() + seam.takeBack(key.size() - 1);
+    if (made > kMostAtJoints || growsTooLong(seam.size(), 1, key, *value)) return Replaced::Endless;
+    fresh = seam.replace(at, key, *value);
   }
   text = seam.whole();
   return Replaced::Done;
@@ -186,7 +201,7 @@ Replaced ReplaceAll(std::string& text, std::string_view key, const Value& value)
 Replaced SubstituteTagAware(std::string& text, std::string_view key, const Value& value) {
   if (key.empty() || text.find(key) == kNone) return Replaced::Done;
   if (!value || value->empty()) return removeTagAware(text, key);
-  if (growsTooMuch(text, key, *value)) return Replaced::Endless;
+  if (growsTooLong(text, key, *value)) return Replaced::Endless;
   replaceForward(text, key, *value);
   return Replaced::Done;
 }

@@ -10,6 +10,11 @@ void ReportEndless(Generator& generator, Replaced result, std::string_view fileN
   LogError(generator.log, FillMessage(message::kEndlessReplacement, {fileName, key}));
 }
 
+void ReplaceSome(Generator& generator, int times, std::string& text, std::string_view key, const Value& value,
+                 std::string_view fileName) {
+  ReportEndless(generator, ReplaceUpTo(times, text, key, value), fileName, key);
+}
+
 void ReplaceEvery(Generator& generator, std::string& text, std::string_view key, const Value& value,
                   std::string_view fileName) {
   ReportEndless(generator, ReplaceAll(text, key, value), fileName, key);

@@ -6,6 +6,7 @@
 #include "core/tree/store_tree.h"
 #include "generator/items/index_file.h"
 #include "generator/items/node_images.h"
+#include "generator/items/reported_replace.h"
 #include "generator/state/build_messages.h"
 #include "generator/template/page_marks.h"
 #include "generator/template/plain_page.h"
@@ -33,7 +34,8 @@ void PageBuilder::tellProgress(const StoreNode& node) {
   window->showLabel(node.fileName.view());
 }
 
-// The shelf block once for each child; null when the page has no block. Deliberate: disabled children are
+// The shelf block once for each child; null when the page has no block, and, with an error, when the items are
+// longer than a page can be. Deliberate: disabled children are
 // shown as well.
 const std::string* PageBuilder::takeShelf(const PageTemplate& source, StoreNode& node) {
   if (source.shelf == ShelfState::Missing) {
@@ -47,19 +49,26 @@ const std::string* PageBuilder::takeShelf(const PageTemplate& source, StoreNode&
     return nullptr;
   }
   shelf_.clear();
+  bool fits = true;
   for (StoreNode* child = node.child; child != nullptr; child = child->next) {
-    appendItem(source, *child, node);
+    fits = fits && appendItem(source, *child, node);
     CopyNodeImages(generator_, *child, node);
   }
-  return &shelf_;
+  if (fits) return &shelf_;
+  ReportEndless(generator_, Replaced::Endless, node.fileName.view(), kShelfKey);
+  return nullptr;
 }
 
-void PageBuilder::appendItem(const PageTemplate& source, StoreNode& item, const StoreNode& page) {
+// False when the items become longer than a page can be.
+bool PageBuilder::appendItem(const PageTemplate& source, const StoreNode& item, const StoreNode& page) {
   const PreparedText* block = source.preparedBlock.get();
-  if (block != nullptr && quick_.appendItem(templates_.plan(), *block, item, page, shelf_)) return;
-  std::string text = block_;
-  SubstituteItem(values_, text, item, page);
-  shelf_ += text;
+  if (block == nullptr || !quick_.appendItem(templates_.plan(), *block, item, page, shelf_)) {
+    std::string text = block_;
+    SubstituteItem(values_, text, item, page);
+    if (shelf_.size() + text.size() > kLongestText) return false;
+    shelf_ += text;
+  }
+  return shelf_.size() <= kLongestText;
 }
 
 // Fills the page; gives whether it went the quick way.

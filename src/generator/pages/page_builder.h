@@ -22,7 +22,7 @@ class PageBuilder {
  private:
   void tellProgress(const StoreNode& node);
   [[nodiscard]] const std::string* takeShelf(const PageTemplate& source, StoreNode& node);
-  void appendItem(const PageTemplate& source, StoreNode& item, const StoreNode& page);
+  [[nodiscard]] bool appendItem(const PageTemplate& source, const StoreNode& item, const StoreNode& page);
   bool fill(const PageTemplate& source, StoreNode& node, const std::string* shelf);
   [[nodiscard]] FileHandle createFile(const StoreNode& node);
   int write(StoreNode& node, const TextSigns::Found& found);

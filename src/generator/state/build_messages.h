@@ -14,6 +14,7 @@ inline constexpr std::string_view kNoProductCode = "error: %s: no product code";
 inline constexpr std::string_view kNoServer = "error: Varlo Server must be defined in preferences!";
 inline constexpr std::string_view kIllegalVariableName = "error: %s: illegal variable name";
 inline constexpr std::string_view kEndlessReplacement = "error: %s: endless replacement of '%s'";
+inline constexpr std::string_view kTemplateTooLong = "error: %s: template too long: '%s'";
 inline constexpr std::string_view kEndlessComment = "error: %s: comment without an end";
 
 // Pictures. Deliberate: two of them name neither page nor file.

@@ -17,7 +17,7 @@ bool addressBefore(const std::pair<const StoreNode*, std::size_t>& left,
 }  // namespace
 
 LevelRows::LevelRows(const ItemValues& values, const StoreNode* head) : head_(head) {
-  for (const StoreNode* node = head; node != nullptr; node = node->next) {
+  for (const StoreNode* node = head; node != nullptr && !isTooLong(); node = node->next) {
     if (!IsIndexed(*node)) continue;
     NodeRow(rows_, values, *node, false);
     sorted_.emplace_back(node, nodes_.size());

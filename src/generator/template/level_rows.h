@@ -22,6 +22,8 @@ class LevelRows {
 
   [[nodiscard]] const StoreNode* head() const { return head_; }
   [[nodiscard]] bool isEmpty() const { return nodes_.empty(); }
+  // Whether the rows are more than a page can hold; they are not all there then.
+  [[nodiscard]] bool isTooLong() const { return rows_.size() > kLongestText; }
 
   static constexpr std::size_t kNotThere = static_cast<std::size_t>(-1);
   // The number of a node among the rows, kNotThere when it has none.

@@ -23,8 +23,8 @@ void replaceAll(const ItemValues& values, std::string& page, std::string_view ke
   ReplaceEvery(values.generator(), page, key, value, node.fileName.view());
 }
 
-// Adds the rows of a list that this page does not show yet, and stamps them. Gives the page's letter where
-// its own row was among them.
+// Adds the rows of a list that this page does not show yet, and stamps them; none any more to an index that is
+// too long for a page already. Gives the page's letter where its own row was among them.
 char addRows(const ItemValues& values, std::string& index, StoreNode* first, const StoreNode& node,
              const StoreNode* branch) {
   const std::uint32_t stamp = values.generator().pageCounter;
@@ -32,9 +32,10 @@ char addRows(const ItemValues& values, std::string& index, StoreNode* first, con
   for (StoreNode* sibling = first; sibling != nullptr; sibling = sibling->next) {
     if (sibling->buildStamp == stamp || !IsIndexed(*sibling)) continue;
     sibling->buildStamp = stamp;
+    if (sibling == &node) letter = LetterOf(node);
+    if (index.size() > kLongestText) continue;
     if (sibling == &node) {
       OwnRow(index, values, node, true);
-      letter = LetterOf(node);
     } else {
       NodeRow(index, values, *sibling, sibling == branch);
     }
@@ -139,13 +140,14 @@ void BuildSubindex(const ItemValues& values, std::string& page, const StoreNode&
   std::string text;
   for (StoreNode* child = level == nullptr ? nullptr : level->child; child != nullptr; child = child->next) {
     if (child->buildStamp == stamp || !IsIndexed(*child)) continue;
+    child->buildStamp = stamp;
+    if (text.size() > kLongestText) continue;
     if (text.empty()) text = kSubindexBegin;
     if (child == &node) {
       OwnRow(text, values, *child, false);
     } else {
       NodeRow(text, values, *child, false);
     }
-    child->buildStamp = stamp;
   }
   if (!text.empty()) text += kSubindexEnd;
   replaceAll(values, page, kSubindexKey, text, node);

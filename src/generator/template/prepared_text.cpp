@@ -22,6 +22,10 @@ std::vector<std::uint32_t> candidatesOf(std::string_view text) {
 }  // namespace
 
 PreparedText::PreparedText(const FillPlan& plan, std::string_view source) : text(source), begins{0} {
+  if (text.size() > kLongest) {
+    quick = false;
+    return;
+  }
   const std::vector<std::uint32_t> candidates = candidatesOf(text);
   const std::string_view whole = text;
   const auto isPlace = [&](std::uint32_t at) { return whole[at] != '$' || plan.isKeyAt(whole.substr(at)); };
@@ -42,6 +46,10 @@ PreparedText::PreparedText(const FillPlan& plan, std::string_view source) : text
       ++use.count;
     }
     if (use.count > 0) uses.push_back(use);
+    if (places.size() > kMostPlaces) {
+      quick = false;
+      return;
+    }
   }
 }
 

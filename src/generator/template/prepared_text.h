@@ -11,6 +11,10 @@ namespace varlo {
 class FillPlan;
 
 struct PreparedText {
+  // A longer text is not prepared, nor is one with more places than that: templates are much smaller.
+  static constexpr std::size_t kLongest = 1024 * 1024;
+  static constexpr std::size_t kMostPlaces = 256 * 1024;
+
   // Finds the places of `text` for a plan that is quick.
   PreparedText(const FillPlan& plan, std::string_view text);
 
@@ -27,8 +31,8 @@ struct PreparedText {
   std::vector<std::uint32_t> begins;
   std::vector<Use> uses;              // in the order of the steps
   std::vector<std::uint32_t> places;  // numbers of segments
-  // Whether this text can be filled the quick way: no place runs into what follows it, so that a value
-  // there could make a longer key of it.
+  // Whether this text can be filled the quick way: it is not too long, and no place runs into what follows
+  // it, so that a value there could make a longer key of it.
   bool quick = true;
 };
 

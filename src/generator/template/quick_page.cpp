@@ -28,7 +28,7 @@ bool QuickPage::fillPage(const FillPlan& plan, const PreparedText& text, StoreNo
     if (assembly_.isOpen(use) && !take(use, node, shelf)) return false;
   }
   if (metIndex_) {
-    composeSubindex(node);
+    if (!composeSubindex(node)) return false;
     const std::string_view index = index_;
     indexParts_ = {index.substr(0, place_), {}, {}};
     if (place_ < index.size()) indexParts_ = {indexParts_[0], subindex_, index.substr(place_ + kSubindexKey.size())};
@@ -118,7 +118,7 @@ bool QuickPage::take(const Use& use, StoreNode& node, const std::string* shelf) 
       assembly_.fill(use, step.source == FillSource::ProductTwo ? tableTwo_ : tableOne_);
       return true;
     case FillSource::Subindex:
-      composeSubindex(node);
+      if (!composeSubindex(node)) return false;
       assembly_.fill(use, subindex_);
       return true;
     case FillSource::Url:
@@ -167,8 +167,9 @@ bool QuickPage::composeIndex(const IndexPlan& plan, StoreNode& node) {
 }
 
 // Adds the rows of a level to the index; the row of the page's own node, or else of the branch, has the
-// place for $SUBINDEX. False when both are there.
+// place for $SUBINDEX. False when both are there, or too many rows.
 bool QuickPage::addLevel(LevelRows& level, const StoreNode& own, const StoreNode* branch) {
+  if (level.isTooLong()) return false;
   std::size_t open = level.find(own);
   const bool isOwn = open != LevelRows::kNotThere;
   if (isOwn) letter_ = LetterOf(own);
@@ -194,14 +195,16 @@ bool QuickPage::addLevel(LevelRows& level, const StoreNode& own, const StoreNode
   return true;
 }
 
-void QuickPage::composeSubindex(const StoreNode& node) {
-  if (composedSubindex_) return;
+// Composes the list for $SUBINDEX once for a page. False when it has too many rows.
+bool QuickPage::composeSubindex(const StoreNode& node) {
+  if (composedSubindex_) return true;
   composedSubindex_ = true;
   subindex_.clear();
   const StoreNode* parent = SubindexLevel(node, branch_);
-  if (parent == nullptr) return;
+  if (parent == nullptr) return true;
   LevelRows& level = levels_.of(parent->child);
-  if (level.isEmpty()) return;
+  if (level.isTooLong()) return false;
+  if (level.isEmpty()) return true;
   subindex_ = kSubindexBegin;
   const std::size_t own = level.find(node);
   if (own == LevelRows::kNotThere) {
@@ -212,6 +215,7 @@ void QuickPage::composeSubindex(const StoreNode& node) {
     subindex_.append(level.behind(own));
   }
   subindex_.append(kSubindexEnd);
+  return true;
 }
 
 }  // namespace varlo

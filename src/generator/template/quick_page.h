@@ -43,7 +43,7 @@ class QuickPage {
   [[nodiscard]] bool takeIndex(const Use& use, StoreNode& node);
   [[nodiscard]] bool composeIndex(const IndexPlan& plan, StoreNode& node);
   [[nodiscard]] bool addLevel(LevelRows& level, const StoreNode& own, const StoreNode* branch);
-  void composeSubindex(const StoreNode& node);
+  [[nodiscard]] bool composeSubindex(const StoreNode& node);
   void report(const StoreNode& item, const StoreNode& page);
 
   ItemValues& values_;

@@ -34,6 +34,7 @@ class ItemPass {
   }
 
  private:
+  [[nodiscard]] std::string_view fileName() const { return page_.fileName.view(); }
   [[nodiscard]] bool holds(std::string_view key) const { return text_.find(key) != std::string::npos; }
 
   void take(const ItemStep& step) {
@@ -47,7 +48,7 @@ class ItemPass {
   void takeVariables() {
     for (const UserVariable* variable = generator_.program.project.variables; variable != nullptr;
          variable = variable->next) {
-      ReplaceUpTo(kVariableRounds, text_, variable->name.view(), ValueOf(variable->value));
+      ReplaceSome(generator_, kVariableRounds, text_, variable->name.view(), ValueOf(variable->value), fileName());
     }
   }
 
@@ -56,16 +57,16 @@ class ItemPass {
   void replace(const ItemStep& step, const Value& value) {
     switch (step.repeat) {
       case Repeat::Once:
-        ReplaceFirst(text_, step.key, value);
+        ReplaceSome(generator_, 1, text_, step.key, value, fileName());
         break;
       case Repeat::Four:
-        ReplaceFour(text_, step.key, value);
+        ReplaceSome(generator_, 4, text_, step.key, value, fileName());
         break;
       case Repeat::All:
-        ReplaceEvery(generator_, text_, step.key, value, page_.fileName.view());
+        ReplaceEvery(generator_, text_, step.key, value, fileName());
         break;
       case Repeat::Tag:
-        ReportEndless(generator_, SubstituteTagAware(text_, step.key, value), page_.fileName.view(), step.key);
+        ReportEndless(generator_, SubstituteTagAware(text_, step.key, value), fileName(), step.key);
         break;
       default:
         break;

@@ -37,7 +37,9 @@ class TemplateSource {
   explicit TemplateSource(ItemValues& values);
 
   // Reads the template of a node into the slot of the template tab, and remembers its name. Null when the
-  // slot has no memory. The template stays valid until the next but one read.
+  // slot has no memory. A file that can't be opened leaves the text that the slot has, as does a name that leads out
+  // of the folder of templates, and, with an error, a file that is longer than any page. The template stays valid
+  // until the next but one read.
   const PageTemplate* read(const StoreNode& node);
 
   // The plan that the templates are prepared for.
@@ -50,11 +52,14 @@ class TemplateSource {
     std::string raw;   // the bytes of the file; empty when it gave the slot no line
     std::string text;  // what the slot held then
     PageTemplate page;
+    [[nodiscard]] std::size_t size() const;  // of all its texts
   };
 
   [[nodiscard]] std::string pathOf(const StoreNode& node) const;
-  [[nodiscard]] bool readRaw(std::string_view path, std::string_view& raw);
+  void readIntoSlot(std::string_view path, bool opened);
+  [[nodiscard]] bool readRaw(const StoreNode& node, std::string_view path, std::string_view& raw);
   Kept& keep(std::string_view path, bool isShelf, std::string_view text);
+  void dropOldest();
   void prepare(Kept& kept);
 
   ItemValues& values_;

@@ -30,6 +30,7 @@ void TextAssembly::start(const FillPlan& plan, const PreparedText& text) {
   plan_ = &plan;
   prepared_ = &text;
   left_.clear();
+  put_ = 0;
   segments_.resize(text.begins.size() - 1);
   for (std::size_t i = 0; i < segments_.size(); ++i) {
     segments_[i] = {{}, nullptr, text.begins[i], text.begins[i + 1], i > 0};
@@ -56,7 +57,10 @@ void TextAssembly::fillEach(const PreparedText::Use& use, Put put) {
 }
 
 void TextAssembly::fill(const PreparedText::Use& use, std::string_view value) {
-  fillEach(use, [value](Segment& segment) { segment.value = value; });
+  fillEach(use, [this, value](Segment& segment) {
+    segment.value = value;
+    put_ += value.size();
+  });
 }
 
 void TextAssembly::fill(const PreparedText::Use& use, const Parts& parts) {
@@ -169,10 +173,19 @@ std::size_t TextAssembly::filledSize() const {
   return size;
 }
 
+// The steps refuse what makes a text too long at any time. What comes near to that is left to them.
+bool TextAssembly::mayGetTooLong() const {
+  std::size_t most = prepared_->text.size() + put_;
+  for (const Segment& segment : segments_) {
+    if (segment.parts == nullptr) continue;
+    for (const std::string_view part : *segment.parts) most += part.size();
+  }
+  return most > kLongestText / 2;
+}
+
 bool TextAssembly::finish(std::string& result, std::size_t from) {
-  const std::size_t size = filledSize();
-  if (size > prepared_->text.size() + kLongestText) return false;
-  result.resize(from + size);
+  if (mayGetTooLong()) return false;
+  result.resize(from + filledSize());
   char* at = result.data() + from;
   const auto put = [&at](std::string_view piece) { at = std::copy(piece.begin(), piece.end(), at); };
   for (const Segment& segment : segments_) {
@@ -181,8 +194,7 @@ bool TextAssembly::finish(std::string& result, std::size_t from) {
     if (segment.open) left_.push_back(static_cast<std::size_t>(at - result.data()));
     put(source(segment.begin, segment.end));
   }
-  signs_.find(result, from);
-  return holdsOnlyKnownKeys(result);
+  return signs_.find(result, from) && holdsOnlyKnownKeys(result);
 }
 
 }  // namespace varlo

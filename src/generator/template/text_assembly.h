@@ -70,6 +70,7 @@ class TextAssembly {
   [[nodiscard]] bool hasGreaterBehind(std::size_t segment, std::uint32_t keySize) const;
   [[nodiscard]] bool cut(const Position& from, const Position& to);
   [[nodiscard]] std::size_t filledSize() const;
+  [[nodiscard]] bool mayGetTooLong() const;
   [[nodiscard]] bool holdsOnlyKnownKeys(std::string_view result) const;
 
   const FillPlan* plan_ = nullptr;
@@ -77,6 +78,7 @@ class TextAssembly {
   std::vector<Segment> segments_;
   TextSigns signs_;
   std::vector<std::size_t> left_;  // where places that stay open stand in the result
+  std::size_t put_ = 0;            // bytes of all values that were put in, those that were cut again as well
 };
 
 }  // namespace varlo

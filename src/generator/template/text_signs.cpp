@@ -24,14 +24,16 @@ bool standsAt(std::string_view text, std::size_t at, std::size_t offset, std::st
 
 }  // namespace
 
-void TextSigns::find(std::string_view text, std::size_t from) {
+bool TextSigns::find(std::string_view text, std::size_t from) {
   constexpr std::size_t kX = kLetterPage.find('x');
   keys.clear();
   found = {};
-  atEach(text, '$', from, [&](std::size_t at) { keys.push_back(at); });
+  atEach(text, '$', from, [&](std::size_t at) {
+    if (keys.size() <= kMostKeys) keys.push_back(at);
+  });
   const auto dollars = static_cast<std::ptrdiff_t>(keys.size());
   atEach(text, 'x', from, [&](std::size_t at) {
-    if (standsAt(text, at, kX, kLetterPage)) keys.push_back(at - kX);
+    if (keys.size() <= kMostKeys && standsAt(text, at, kX, kLetterPage)) keys.push_back(at - kX);
   });
   std::inplace_merge(keys.begin(), keys.begin() + dollars, keys.end());
   atEach(text, '!', from, [&](std::size_t at) {
@@ -41,6 +43,7 @@ void TextSigns::find(std::string_view text, std::size_t from) {
   atEach(text, '+', from, [&](std::size_t at) {
     if (standsAt(text, at, 0, kPlusClose)) found.plusComment = true;
   });
+  return keys.size() <= kMostKeys;
 }
 
 }  // namespace varlo

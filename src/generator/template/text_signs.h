@@ -18,8 +18,11 @@ struct TextSigns {
   std::vector<std::size_t> keys;  // where a key may begin: each "$" and each letter page
   Found found;
 
-  // Looks for the signs of `text` from `from` on, instead of what was found before.
-  void find(std::string_view text, std::size_t from);
+  // So many keys are looked at one by one; a text that could hold more is none to be filled in one pass.
+  static constexpr std::size_t kMostKeys = 1024 * 1024;
+
+  // Looks for the signs of `text` from `from` on, instead of what was found before. False when there are too many.
+  [[nodiscard]] bool find(std::string_view text, std::size_t from);
 };
 
 }  // namespace varlo

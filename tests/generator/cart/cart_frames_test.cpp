@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "generator/items/frame_script.h"
+#include "generator/items/replace.h"
 #include "tests/support/freight.h"
 #include "tests/support/test_shop.h"
 
@@ -282,6 +283,15 @@ TEST_F(CartFrames, AWholeRegisterMayPass100000Bytes) {
   t.project().orderTemplate.assign(std::string_view(std::string(20000, '"')));
   t.project().confirmTemplate.assign(std::string_view(std::string(20000, '"')));
   EXPECT_EQ(registerOf("$FORM$CONFIRM" + std::string(50000, '\n')).size(), 2 * 60000U + 50000);
+}
+
+TEST_F(CartFrames, AFormThatIsTooLongForTheRegisterLeavesItsPlaceAndCountsAnError) {
+  const std::string message(kLongestText, 'm');
+  t.project().orderTemplate.assign("$MESSAGE");
+  t.project().orderMessage.assign(std::string_view(message));
+  EXPECT_EQ(registerOf("[$FORM]"), "[$FORM]");
+  EXPECT_THAT(t.window.lines, ElementsAre("error: register.html: endless replacement of '$FORM'"));
+  EXPECT_EQ(t.generator.log.errorCount, 1);
 }
 
 TEST_F(CartFrames, TheRegisterShowsItsNameOnTheLabel) {

@@ -18,9 +18,12 @@ std::string tag(std::string text, std::string_view key, const Value& value) {
   const Replaced result = SubstituteTagAware(text, key, value);
   return (result == Replaced::Endless ? "endless: " : "") + text;
 }
+std::string upTo(int times, std::string text, std::string_view key, const Value& value) {
+  const Replaced result = ReplaceUpTo(times, text, key, value);
+  return (result == Replaced::Endless ? "endless: " : "") + text;
+}
 std::string four(std::string text, std::string_view key, const Value& value) {
-  ReplaceFour(text, key, value);
-  return text;
+  return upTo(4, std::move(text), key, value);
 }
 
 TEST(Replace, TheFirstKeyIsReplacedAndThePlaceBehindItGiven) {
@@ -62,8 +65,7 @@ TEST(Replace, TheRoundsOfAUserVariableAreCapped) {
   std::string expected;
   for (int i = 0; i < 102; ++i) keys += "$K,";
   for (int i = 0; i < 101; ++i) expected += "x,";
-  ReplaceUpTo(101, keys, "$K", "x");
-  EXPECT_EQ(keys, expected + "$K,");
+  EXPECT_EQ(upTo(101, keys, "$K", "x"), expected + "$K,");
 }
 
 TEST(Replace, AllTakesEveryOccurrence) {
@@ -92,6 +94,46 @@ TEST(Replace, AValueWithoutBoundsIsEndless) {
   const std::string value(20000, 'v');
   EXPECT_EQ(all(text, "$K", Value(value)), "endless: " + text);
   EXPECT_EQ(tag(text, "$K", Value(value)), "endless: " + text);
+}
+
+// The longest texts are compared by their lengths, which is quicker and prints less.
+
+TEST(Replace, NoTextGetsLongerThanTheLongest) {
+  const std::string fits(1000, 'v');
+  const std::string tooLong(1001, 'v');
+  std::string text = std::string(kLongestText - 1000, 'x') + "$K";
+  EXPECT_EQ(ReplaceAll(text, "$K", Value(tooLong)), Replaced::Endless);
+  EXPECT_EQ(SubstituteTagAware(text, "$K", Value(tooLong)), Replaced::Endless);
+  EXPECT_EQ(ReplaceUpTo(1, text, "$K", Value(tooLong)), Replaced::Endless);
+  EXPECT_TRUE(text.ends_with("x$K"));
+  EXPECT_EQ(text.size(), kLongestText - 998);
+  EXPECT_EQ(ReplaceAll(text, "$K", Value(fits)), Replaced::Done);
+  EXPECT_EQ(text.size(), kLongestText);
+}
+
+TEST(Replace, TheLongestTextMayBecomeShorter) {
+  std::string text = std::string(kLongestText, 'x') + "$KEY$KEY$KEY";
+  EXPECT_EQ(ReplaceUpTo(1, text, "$KEY", "abc"), Replaced::Done);
+  EXPECT_EQ(SubstituteTagAware(text, "$KEY", "abcd"), Replaced::Done);
+  EXPECT_TRUE(text.ends_with("xabcabcdabcd"));
+}
+
+TEST(Replace, OneStepBehindTheOtherMakesNoLongerTextEither) {
+  std::string text = "$A$B$C$D";
+  const std::string value(kLongestText / 3, 'v');
+  EXPECT_EQ(ReplaceAll(text, "$A", Value(value)), Replaced::Done);
+  EXPECT_EQ(SubstituteTagAware(text, "$B", Value(value)), Replaced::Done);
+  EXPECT_EQ(ReplaceUpTo(4, text, "$C", Value(value)), Replaced::Endless);
+  EXPECT_EQ(ReplaceAll(text, "$D", Value(value)), Replaced::Endless);
+  EXPECT_LE(text.size(), kLongestText);
+  EXPECT_TRUE(text.ends_with("v$C$D"));
+}
+
+TEST(Replace, OfSomeRoundsThoseThatFitAreTaken) {
+  std::string text = "$K,$K,$K,$K";
+  const std::string value(kLongestText * 2 / 5, 'v');
+  EXPECT_EQ(ReplaceUpTo(4, text, "$K", Value(value)), Replaced::Endless);
+  EXPECT_TRUE(text == value + "," + value + ",$K,$K");
 }
 
 TEST(Replace, ManyOccurrencesTakeNoLongerThanTheirBytes) {

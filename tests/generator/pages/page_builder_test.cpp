@@ -94,6 +94,98 @@ TEST_F(PageBuilderTest, APageWhoseNameLeadsOutOfTheWebDirectoryCannotBeCreated) 
   EXPECT_EQ(t.home->modified, 1);
 }
 
+// What would grow without bounds.
+
+// Some text of `count` times `part`.
+std::string repeated(std::size_t count, std::string_view part) {
+  std::string text;
+  for (std::size_t i = 0; i < count; ++i) text += part;
+  return text;
+}
+std::string endless(const char* key) {
+  return std::string("error: 1.htm: endless replacement of '").append(key).append("'");
+}
+
+// An item with some thousand bytes of values, which make twenty million.
+StoreNode* addLarge(TestShop& t) {
+  StoreNode* node = AddProduct(t.project(), "large", t.home);
+  node->cost.assign(std::string_view(repeated(100, "$CODE")));
+  node->productCode.assign(std::string_view(repeated(100, "$TAX")));
+  node->tax.assign(std::string_view(std::string(2000, 'x')));
+  return node;
+}
+
+TEST_F(PageBuilderTest, ItemsThatAreTooLongForAPageLeaveTheShelfEmpty) {
+  for (int i = 0; i < 4; ++i) addLarge(t);
+  StoreNode* last = add("last");
+  t.files.putFolder("C:\\Web\\img");
+  t.files.put("C:\\a.gif", "picture");
+  last->image.assign("C:\\a.gif");
+  EXPECT_EQ(shelf("[<SHELF>$COST</SHELF>]"), "[$SHELF]");
+  EXPECT_THAT(t.window.lines, ElementsAre(endless("$SHELF")));
+  EXPECT_EQ(t.generator.log.errorCount, 1);
+  EXPECT_EQ(t.site("img\\a.gif"), "picture") << "the pictures of all items are copied";
+}
+
+TEST_F(PageBuilderTest, AShelfThatIsTooLongForItsPageLeavesItsPlace) {
+  for (int i = 0; i < 2; ++i) addLarge(t);
+  const std::string body(30000000, 'b');
+  t.home->body.assign(std::string_view(body));
+  EXPECT_TRUE(shelf("$BODY<SHELF>$COST</SHELF>") == body + "$SHELF");
+  EXPECT_THAT(t.window.lines, ElementsAre(endless("$SHELF")));
+}
+
+TEST_F(PageBuilderTest, AnEarlyTextThatIsTooLongStays) {
+  const std::string body(40000000, 'b');
+  t.home->body.assign(std::string_view(body));
+  EXPECT_TRUE(category("$BODY$BODY") == body + "$BODY");
+  EXPECT_THAT(t.window.lines, ElementsAre(endless("$BODY"), endless("$BODY"))) << "by the step of the pass as well";
+  EXPECT_EQ(t.generator.log.errorCount, 2);
+}
+
+TEST_F(PageBuilderTest, AUserVariableThatGrowsTooLongIsStopped) {
+  UserVariable* variable = UserVariableInit(nullptr);
+  variable->name.assign("$GROW");
+  variable->value.assign(std::string_view("$GROW" + std::string(10000000, 'g')));
+  UserVariableAppend(t.project(), variable);
+  const std::string page = category("[$GROW]");
+  EXPECT_LE(page.size(), kLongestText);
+  EXPECT_GT(page.size(), 60000000U);
+  EXPECT_THAT(t.window.lines, ElementsAre(endless("$GROW")));
+}
+
+TEST_F(PageBuilderTest, StepsThatEachAddMuchEndWithALongPage) {
+  const std::string text(20000000, 'x');
+  for (Text& field : t.home->field) field.assign(std::string_view(text));
+  EXPECT_TRUE(category("$F1,$F2,$F3,$F4,$F5,$F6") == text + "," + text + "," + text + ",$F4,$F5,$F6");
+  EXPECT_THAT(t.window.lines, ElementsAre(endless("$F4"), endless("$F5"), endless("$F6")));
+}
+
+TEST_F(PageBuilderTest, ListingsThatAreTooLongForAPageLeaveTheirPlaces) {
+  t.scheme().slot[25].assign(std::string_view("<b>" + std::string(10000000, 'b')));
+  for (int i = 0; i < 8; ++i) add("item");
+  const std::string listings = "$PRODUCTS2,$PRODUCT2,$PRODUCTS,$PRODUCT,$SUBINDEX";
+  EXPECT_TRUE(category(listings) == listings);
+  EXPECT_THAT(t.window.lines, ElementsAre(endless("$PRODUCTS2"), endless("$PRODUCT2"), endless("$PRODUCTS"),
+                                          endless("$PRODUCT"), endless("$SUBINDEX")));
+}
+
+TEST_F(PageBuilderTest, AnIndexThatIsTooLongForAPageLeavesItsPlaceAndItsLetter) {
+  t.scheme().slot[24].assign(std::string_view("<b>" + std::string(10000000, 'b')));
+  for (int i = 0; i < 8; ++i) AddCategory(t.project(), "top");
+  EXPECT_TRUE(category("[$INDEX]indexa.htm") == "[$INDEX]indexh.htm");
+  EXPECT_THAT(t.window.lines, ElementsAre(endless("$INDEX")));
+}
+
+TEST_F(PageBuilderTest, ATemplateThatIsLongerThanAPageCannotBeOpened) {
+  EXPECT_EQ(category("former"), "former");
+  put("t.htm", std::string(kLongestText + 1, 'x'));
+  EXPECT_EQ(BuildPage(t.generator, t.home), 1);
+  EXPECT_EQ(t.site("1.htm"), "former");
+  EXPECT_THAT(t.window.lines, ElementsAre("error: 1.htm: template too long: '" + kTemplates + "t.htm'"));
+  EXPECT_EQ(t.generator.log.errorCount, 1);
+}
+
 // What is told.
 
 TEST_F(PageBuilderTest, EachPageStepsTheProgressShowsItsNameAndCounts) {

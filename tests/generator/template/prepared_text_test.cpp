@@ -4,10 +4,12 @@
 
 #include "core/store/user_variable.h"
 #include "generator/template/fill_plan.h"
+#include "tests/support/test_shop.h"
 
 namespace varlo {
 namespace {
 
+using namespace test;
 using testing::ElementsAre;
 
 // The text with its places in brackets behind a "|", and the keys that can take each.
@@ -68,6 +70,29 @@ TEST(PreparedText, IsNotQuickWhereOneKeyStandsInsideAnother) {
   EXPECT_TRUE(plan.isQuick());
   EXPECT_FALSE(isQuick(plan, "a$indexa.htm."));
   EXPECT_TRUE(isQuick(plan, "indexa.htm."));
+}
+
+TEST(PreparedText, ATextThatIsTooLongIsNotPrepared) {
+  const FillPlan plan(nullptr);
+  EXPECT_TRUE(isQuick(plan, std::string(PreparedText::kLongest, 'x')));
+  EXPECT_FALSE(isQuick(plan, std::string(PreparedText::kLongest + 1, 'x')));
+}
+
+TEST(PreparedText, APlaceThatVeryManyVariablesCouldTakeMakesATextTooMuch) {
+  TestShop t;
+  for (int i = 0; i < 2000; ++i) {
+    UserVariable* variable = UserVariableInit(nullptr);
+    variable->name.assign("$SAME");
+    UserVariableAppend(t.project(), variable);
+  }
+  const FillPlan plan(t.project().variables);
+  std::string text;
+  for (int i = 0; i < 100; ++i) text += "$SAME,";
+  EXPECT_TRUE(isQuick(plan, text));
+  for (int i = 0; i < 100; ++i) text += "$SAME,";
+  const PreparedText prepared(plan, text);
+  EXPECT_FALSE(prepared.quick);
+  EXPECT_LE(prepared.places.size(), PreparedText::kMostPlaces + 200);
 }
 
 }  // namespace

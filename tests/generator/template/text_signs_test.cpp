@@ -13,7 +13,7 @@ TextSigns signsOf(std::string_view text, std::size_t from = 0) {
   TextSigns signs;
   signs.keys = {99};
   signs.found = TextSigns::kAll;
-  signs.find(text, from);
+  EXPECT_TRUE(signs.find(text, from));
   return signs;
 }
 
@@ -49,6 +49,16 @@ TEST(TextSigns, WhatStandsInFrontOfTheStartDoesNotCount) {
   EXPECT_THAT(signsOf("$a$b", 1).keys, ElementsAre(2U));
   EXPECT_FALSE(signsOf("+-->text", 4).found.plusComment);
   EXPECT_THAT(signsOf("$", 1).keys, IsEmpty());
+}
+
+TEST(TextSigns, AreGivenUpWhereThereAreTooMany) {
+  TextSigns signs;
+  EXPECT_TRUE(signs.find(std::string(TextSigns::kMostKeys, '$'), 0));
+  EXPECT_EQ(signs.keys.size(), TextSigns::kMostKeys);
+  EXPECT_FALSE(signs.find(std::string(TextSigns::kMostKeys + 1, '$'), 0));
+  EXPECT_FALSE(signs.find(std::string(TextSigns::kMostKeys, '$') + "indexa.htm", 0));
+  EXPECT_FALSE(signs.find(std::string(8 * TextSigns::kMostKeys, '$'), 0));
+  EXPECT_LE(signs.keys.size(), TextSigns::kMostKeys + 1) << "no more are kept";
 }
 
 }  // namespace
