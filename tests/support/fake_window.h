@@ -64,7 +64,11 @@ class FakeWindow : public Dialog {
   [[nodiscard]] int result() const { return result_; }
   [[nodiscard]] ControlId focused() const { return focused_; }
   [[nodiscard]] const std::string& title() const { return title_; }
-  [[nodiscard]] int limitOf(ControlId control) const { return limits_.at(control); }
+  // The limit of a field, 0 when none was set.
+  [[nodiscard]] int limitOf(ControlId control) const {
+    const auto found = limits_.find(control);
+    return found == limits_.end() ? 0 : found->second;
+  }
   // Rows of a combo box, a drop list or a list box.
   [[nodiscard]] const std::vector<std::string>& rows(ControlId control) { return rows_[control].texts; }
   [[nodiscard]] const std::vector<ListColumn>& columns(ControlId list) { return columns_[list]; }
