@@ -170,9 +170,10 @@ void RowList::tell(ControlEvent event) {
 
 void RowList::tellSelection() {
   if (depth_ > 0 || !std::exchange(selectionChanged_, false)) return;
+  const bool byKey = byKey_;  // asking the list for its focus is a message as well
   const int focused =
       rowAt(static_cast<int>(::SendMessageA(list_, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED)));
-  tell({.notice = Notice::SelectionChanged, .row = isSelected(focused) ? focused : selected(), .byKey = byKey_});
+  tell({.notice = Notice::SelectionChanged, .row = isSelected(focused) ? focused : selected(), .byKey = byKey});
 }
 
 void RowList::clicked(const NMITEMACTIVATE& click, Notice notice) {

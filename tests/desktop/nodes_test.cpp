@@ -249,7 +249,6 @@ TEST_F(Nodes, ColumnsCanBeReorderedAndCellsStayWithThem) {
 }
 
 TEST_F(Nodes, ControlsStayInsideTheWindowAndApartAtAnySize) {
-  using namespace main;
   for (const SIZE size : {SIZE{1024, 740}, SIZE{800, 600}, SIZE{640, 480}, SIZE{100, 100}, SIZE{940, 640}}) {
     ::SetWindowPos(window(), nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER);
     program().settle();
@@ -258,8 +257,10 @@ TEST_F(Nodes, ControlsStayInsideTheWindowAndApartAtAnySize) {
     RECT inside{};
     ::GetClientRect(window(), &inside);
     ::MapWindowPoints(window(), nullptr, reinterpret_cast<POINT*>(&inside), 2);
-    const std::array controls{kTree,    kItemList, kTabs,  kStatusBar, kToolbar, kPreview,
-                              kProduct, kCategory, kShelf, kList,      kBuild};
+    const std::array controls{main_window::kTree,      main_window::kItemList, main_window::kTabs,
+                              main_window::kStatusBar, main_window::kToolbar,  main_window::kPreview,
+                              main_window::kProduct,   main_window::kCategory, main_window::kShelf,
+                              main_window::kList,      main_window::kBuild};
     for (const ControlId first : controls) {
       const RECT place = placeOf(program().control(first));
       RECT common{};

@@ -148,6 +148,8 @@ void Drag(const DesktopProgram& program, POINT from, POINT to, const std::functi
   waitForDoubleClickToPass(from);
   moveTo(program, from);
   sendMouse(MOUSEEVENTF_LEFTDOWN);
+  // A hand moves a little first: a control that has not taken the mouse yet must see it leave the place of the press.
+  moveTo(program, {from.x + 6, from.y});
   constexpr int kSteps = 8;
   for (int step = 1; step <= kSteps; ++step) {
     moveTo(program, {from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps});

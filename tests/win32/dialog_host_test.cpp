@@ -48,8 +48,11 @@ class OpenDialog : public testing::Test {
  protected:
   RecordingLogic logic;
 
+  void SetUp() override { logic.itsShape.form = Form::Modeless; }
+
   void open(const DialogShape& shape) {
-    logic.itsShape = &shape;
+    logic.itsShape = shape;
+    logic.itsShape.form = Form::Modeless;
     ASSERT_NE(OpenModelessDialog(nullptr, logic.shared()), nullptr);
     pump(logic.handle());
     logic.told.clear();
@@ -274,7 +277,7 @@ TEST_F(OpenDialog, AListShowsItsRowsInAnotherOrderAndKeepsTheSelection) {
 
 TEST_F(OpenDialog, MadeAnewHasTheControlsOfItsNewShape) {
   open(SaveAsDialog::kShape);
-  logic.itsShape = &FirstBuildDialog::kShape;
+  logic.itsShape = FirstBuildDialog::kShape;
   dialog().reshape();
   EXPECT_EQ(logic.item(save_as::kName), nullptr);
   EXPECT_NE(logic.item(first_build::kDirectory), nullptr);
@@ -311,7 +314,9 @@ TEST_F(OpenDialog, PlacesShowsAndHidesControls) {
 TEST_F(OpenDialog, TabReturnAndEscapeWorkInTheLoopOfAnotherDialog) {
   open(PreferencesDialog::kShape);
   dialog().focus(preferences::kProxy);
-  const DialogTemplate otherTemplate(SaveAsDialog::kShape);
+  DialogShape hidden = SaveAsDialog::kShape;
+  hidden.form = Form::Modeless;
+  const DialogTemplate otherTemplate(hidden);
   const HWND other = ::CreateDialogIndirectParamA(
       ::GetModuleHandleA(nullptr), otherTemplate.get(), nullptr,
       [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0);

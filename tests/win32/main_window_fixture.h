@@ -89,6 +89,11 @@ class MainWindowTest : public testing::Test {
     handle = ::CreateDialogIndirectParamA(::GetModuleHandleA(nullptr), frame.get(), nullptr, procedure,
                                           reinterpret_cast<LPARAM>(this));
     ASSERT_NE(handle, nullptr);
+    window->controls().place(layOutMainWindow({.client = window->clientSize(),
+                                               .rowHeight = window->rowHeight(),
+                                               .leftWidth = window->scaled(384),
+                                               .scale = window->scaled(100)})
+                                 .controls);
     ::ShowWindow(handle, SW_SHOW);
     settle();
   }

@@ -14,9 +14,9 @@ namespace varlo::test {
 
 class RecordingLogic : public DialogLogic {
  public:
-  explicit RecordingLogic(const DialogShape& shape = SaveAsDialog::kShape) : itsShape(&shape) {}
+  explicit RecordingLogic(const DialogShape& shape = SaveAsDialog::kShape) : itsShape(shape) {}
 
-  const DialogShape* itsShape;
+  DialogShape itsShape;
   std::vector<std::string> told;
   std::function<void(Dialog&)> whenOpened;
   std::function<void(Dialog&, const ControlEvent&)> whenNotified;
@@ -33,7 +33,7 @@ class RecordingLogic : public DialogLogic {
   // For windows that keep their logic; the test keeps this one.
   [[nodiscard]] std::shared_ptr<DialogLogic> shared() { return {std::shared_ptr<void>(), this}; }
 
-  [[nodiscard]] const DialogShape& shape() const override { return *itsShape; }
+  [[nodiscard]] const DialogShape& shape() const override { return itsShape; }
   void opened(Dialog& dialog) override {
     window = &dialog;
     told.emplace_back("opened");
