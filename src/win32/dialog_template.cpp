@@ -6,7 +6,8 @@ namespace {
 DWORD styleOf(const DialogShape& shape) {
   switch (shape.form) {
     case Form::Modal:
-      return WS_POPUP | WS_VISIBLE | WS_CAPTION | WS_SYSMENU | (shape.resizable ? WS_THICKFRAME : DWORD{DS_MODALFRAME});
+      return WS_POPUP | WS_VISIBLE | WS_CAPTION | WS_SYSMENU |
+             (shape.resizable ? WS_THICKFRAME : DWORD{DS_MODALFRAME});
     case Form::Modeless:
       return WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX |
              (shape.resizable ? DWORD{WS_THICKFRAME | WS_MAXIMIZEBOX} : DWORD{0});
