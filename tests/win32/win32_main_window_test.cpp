@@ -115,8 +115,9 @@ TEST_F(Win32MainWindowTest, OpensOnePageAtATimeBetweenButtonsAndTabs) {
 }
 
 TEST_F(Win32MainWindowTest, KnowsWhereTheFocusIs) {
-  RecordingLogic page(InventoryPage::kShape);
-  window->openPage(page.shared());
+  const auto kept = std::make_shared<RecordingLogic>(InventoryPage::kShape);
+  RecordingLogic& page = *kept;
+  window->openPage(kept);
   ::SetFocus(treeHandle());
   EXPECT_EQ(window->focus().place, Focus::Place::Tree);
   ::SetFocus(listHandle());
@@ -131,8 +132,9 @@ TEST_F(Win32MainWindowTest, KnowsWhereTheFocusIs) {
 }
 
 TEST_F(Win32MainWindowTest, ClosingThePageUnderTheFocusLeavesItOnTheTabs) {
-  RecordingLogic page(InventoryPage::kShape);
-  window->openPage(page.shared());
+  const auto kept = std::make_shared<RecordingLogic>(InventoryPage::kShape);
+  RecordingLogic& page = *kept;
+  window->openPage(kept);
   ::SetFocus(page.item(inventory::kTitle));
   window->closePage();
   EXPECT_EQ(::GetFocus(), item(main_window::kTabs));
@@ -146,8 +148,9 @@ TEST_F(Win32MainWindowTest, TellsWhenTheFocusHasMoved) {
 }
 
 TEST_F(Win32MainWindowTest, CopyAndPasteKeysAreCommandsInTreeAndListOnly) {
-  RecordingLogic page(InventoryPage::kShape);
-  window->openPage(page.shared());
+  const auto kept = std::make_shared<RecordingLogic>(InventoryPage::kShape);
+  RecordingLogic& page = *kept;
+  window->openPage(kept);
   const std::string copy = "command " + std::to_string(number(Command::Copy));
   ::SetFocus(treeHandle());
   pressWithControl(treeHandle(), 'C');
@@ -170,8 +173,9 @@ TEST_F(Win32MainWindowTest, KeysOfGreyEntriesDoNothing) {
 }
 
 TEST_F(Win32MainWindowTest, FindAndSelectAllKeysAreCommandsInARichEdit) {
-  RecordingLogic page(InventoryPage::kShape);
-  window->openPage(page.shared());
+  const auto kept = std::make_shared<RecordingLogic>(InventoryPage::kShape);
+  RecordingLogic& page = *kept;
+  window->openPage(kept);
   const HWND text = page.item(inventory::kDescription);
   ::SetFocus(text);
   pressWithControl(text, 'F');
