@@ -1,6 +1,7 @@
 // A whole program on the machine's real files, with nobody at the screen.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -33,8 +34,8 @@ class QuietScreen : public Screen {
   std::optional<std::uint32_t> chooseColour(std::uint32_t /*start*/, CustomColours& /*custom*/) override {
     return std::nullopt;
   }
-  int runDialog(int /*dialogId*/, DialogLogic& /*logic*/) override { return 0; }
-  Dialog* openDialog(int /*dialogId*/, DialogLogic& /*logic*/) override { return nullptr; }
+  int runDialog(DialogLogic& /*logic*/) override { return 0; }
+  Dialog* openDialog(std::shared_ptr<DialogLogic> /*logic*/) override { return nullptr; }
   Command popupMenu(const PopupMenu& /*menu*/) override { return Command::None; }
   void postCommand(Command /*command*/) override {}
 
