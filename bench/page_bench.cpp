@@ -232,7 +232,8 @@ void measurePages(const std::string& folder) {
 void run(const std::string& parent) {
   const WorkFolder work(parent);
   const auto folderOf = [&work](std::size_t products) { return work.path() + "/" + std::to_string(products); };
-  for (const std::size_t products : {1000, 10000}) makeStore(folderOf(products), products, 50);
+  for (const std::size_t products : {std::size_t{1000}, std::size_t{10000}})
+    makeStore(folderOf(products), products, 50);
   makeStore(work.path() + "/wide", 1000, 1000);
   measurePass(folderOf(1000));
   measurePages(folderOf(1000));

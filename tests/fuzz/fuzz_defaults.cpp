@@ -1,5 +1,7 @@
-// What a target is run with when the command line does not tell otherwise: its seeds, the dictionary,
-// and the limits that its inputs need.
+// Gives the fuzzer what the command line does not tell: the target's seeds, its dictionary, and the limits that its
+// inputs need.
+#include "tests/fuzz/fuzz_defaults.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <string>
@@ -27,7 +29,7 @@ void addFlag(Arguments& arguments, const std::string& flag, const std::string& v
 // The seeds serve as read-only inputs: in the place of a corpus folder the new inputs would go there.
 std::string seedList() {
   std::vector<std::string> files;
-  for (const auto& entry : std::filesystem::directory_iterator(VARLO_FUZZ_SEEDS)) {
+  for (const auto& entry : std::filesystem::directory_iterator(varlo::fuzz::kSeeds)) {
     if (entry.is_regular_file()) files.push_back(entry.path().string());
   }
   std::sort(files.begin(), files.end());
@@ -42,7 +44,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
 
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
   static Arguments arguments(*argv, *argv + *argc);
-  addFlag(arguments, "-dict", VARLO_FUZZ_DICTIONARY);
+  addFlag(arguments, "-dict", varlo::fuzz::kDictionary);
   addFlag(arguments, "-max_len", "24576");
   addFlag(arguments, "-timeout", "10");
   addFlag(arguments, "-rss_limit_mb", "4096");

@@ -6,6 +6,7 @@
 
 #include "core/program/project_close.h"
 #include "core/tree/node_commands.h"
+#include "tests/support/rounds.h"
 #include "tests/support/test_program.h"
 #include "tests/support/tree.h"
 
@@ -14,7 +15,7 @@ namespace {
 
 using namespace test;
 
-constexpr int kCommands = 100000;
+const int kCommands = Rounds(100000);
 constexpr std::size_t kLargestTree = 300;
 
 class RandomCommands {

@@ -10,6 +10,7 @@
 #include "generator/pages/page_walk.h"
 #include "generator/template/quick_page.h"
 #include "tests/generator/template/plain_steps.h"
+#include "tests/support/rounds.h"
 #include "tests/support/test_shop.h"
 
 namespace varlo {
@@ -164,12 +165,7 @@ class RandomShop {
   }
 };
 
-// Sanitizers make each case take ten times as long; the optimised builds of this test make up for it.
-#ifdef __SANITIZE_ADDRESS__
-constexpr int kCases = 8000;
-#else
-constexpr int kCases = 50000;
-#endif
+const int kCases = Rounds(8000);
 
 class PageProperty : public testing::Test {
  protected:

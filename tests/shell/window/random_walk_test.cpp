@@ -10,13 +10,14 @@
 
 #include "generator/items/html_text.h"
 #include "persist/life/start_up.h"
+#include "tests/support/rounds.h"
 #include "tests/support/shell_checks.h"
 #include "tests/support/shown_store.h"
 
 namespace varlo::test {
 namespace {
 
-constexpr int kSteps = 200000;
+const int kSteps = Rounds(200000);
 constexpr std::size_t kLargestTree = 45;
 constexpr int kFullCheckEvery = 16;
 
