@@ -25,6 +25,22 @@ step() {
   fail "\"$text\" failed; the end of $PWD/$log is above."
 }
 
+# configure PRESET [ARGUMENT...]: a build folder that was made for another place of the clone, and came here when the
+# clone was moved or copied, is made anew. One that was made by other presets is configured from the beginning.
+configure() {
+  local folder=build/$1 cache=build/$1/CMakeCache.txt fresh=()
+  if [[ -f $cache ]] && ! { made_for CMAKE_HOME_DIRECTORY . && made_for CMAKE_CACHEFILE_DIR "$folder"; }; then
+    rm -rf "$folder"
+  fi
+  [[ ! CMakePresets.json -nt $cache ]] || fresh=(--fresh)
+  cmake "${fresh[@]}" --preset "$@"
+}
+
+# made_for ENTRY FOLDER: whether the folder that an entry of $cache names is this one.
+made_for() {
+  [[ $(sed -n "s/^$1:INTERNAL=//p" "$cache") -ef $2 ]]
+}
+
 # Those of the given packages that are not installed, one a line.
 missing_packages() {
   local package

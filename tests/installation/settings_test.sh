@@ -27,6 +27,20 @@ echo 'view=1' >"$install/config.ini"
 "$first_settings" "$install" || fail "settings that are there make the script fail"
 [ "$(cat "$install/config.ini")" = 'view=1' ] || fail "settings that were there are not kept"
 
+# One that was moved names its own project and browser, and leaves what lies elsewhere.
+rm "$install/config.ini"
+"$first_settings" "$install" || fail "no settings were written again"
+printf 'last=%s-2\\a\r\nfile2=%s\\A shop.stp\r\nkey\n' "$windows" "$windows" >>"$install/config.ini"
+mv "$install" moved
+mv "$install.place" moved.place
+new="Z:${work//\//\\}\\moved"
+"$first_settings" moved || fail "the settings of a moved installation make the script fail"
+printf 'browser=%s\\open_browser.sh\nfile=%s\\Projects\\Demo\\Demo.stp\nlast=%s-2\\a\r\nfile2=%s\\A shop.stp\r\nkey\n' \
+  "$new" "$new" "$windows" "$new" >expected
+cmp expected moved/config.ini || fail "the settings of a moved installation are not as expected"
+"$first_settings" moved
+cmp expected moved/config.ini || fail "the settings of an installation that stays are changed"
+
 mkdir 'Ω'
 "$first_settings" 'Ω' 2>err && fail "a folder without a name in Windows got settings"
 grep -q 'cannot name' err || fail "it is not told why there are no settings"
