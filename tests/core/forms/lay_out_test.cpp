@@ -9,6 +9,8 @@ constexpr Row kTwoFields[] = {
     {{{.id = 1, .kind = Kind::Edit, .label = "One:", .labelWidth = 50},
       {.id = 2, .kind = Kind::Edit, .label = "Two:", .labelWidth = 50}}},
 };
+// With numbers that no button at the foot has.
+constexpr Row kOtherField[] = {{{{.id = 11, .kind = Kind::Edit}}}};
 constexpr Row kFilled[] = {
     {{{.id = 1, .kind = Kind::Edit}}},
     {{{.id = 2, .kind = Kind::Lines, .label = "Long:", .labelWidth = kLabelAbove, .lines = kFill}}},
@@ -70,7 +72,7 @@ TEST(LayOut, SmallButtonsEndTheRowOfTheirField) {
 }
 
 TEST(LayOut, ButtonsAtTheFootStandAtTheRightEndInTheirOrder) {
-  const DialogShape shape{.rows = kTwoFields, .foot = kFoot};
+  const DialogShape shape{.rows = kOtherField, .foot = kFoot};
   const int height = LaidOutHeight(shape, 400, 100);
   const auto controls = LayOut(shape, {400, height}, 100);
   EXPECT_EQ(of(controls, kCancel).place.left + of(controls, kCancel).place.width, 392);
