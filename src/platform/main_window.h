@@ -186,6 +186,8 @@ struct MainWindowLogic {
   virtual std::string_view toolTip(Command command) = 0;
   // The focus went to another control.
   virtual void focusMoved() = 0;
+  // Whether the user can select now. While not, tree, list and tabs keep what is selected.
+  [[nodiscard]] virtual bool isFree() const { return true; }
 
   virtual void treeSelectionChanged(TreeItem item) = 0;
   // Also by a click on its button.

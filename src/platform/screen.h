@@ -63,6 +63,8 @@ struct Screen {
   virtual Dialog* openDialog(std::shared_ptr<DialogLogic> logic) = 0;
   // Shows a menu at the mouse; the command that was chosen, none when it was left.
   virtual Command popupMenu(const PopupMenu& menu) = 0;
+  // Forgets what was typed and clicked and nobody has taken yet: it was meant for what has ended now.
+  virtual void dropWaitingInput() {}
   // Queues a command behind the running one instead of calling it.
   virtual void postCommand(Command command) = 0;
 };

@@ -1,6 +1,7 @@
 // Browsers for tests: records what is said to them.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -19,12 +20,13 @@ class FakeBrowsers : public BrowserSystem {
   bool starts = true;                          // whether programs can be started
   std::map<std::string, std::string> classes;  // the registry
   std::vector<std::string> calls;              // one line each
+  std::function<void()> whileWaiting;          // happens during a conversation
 
   std::unique_ptr<Conversation> connect(const std::string& service, const std::string& topic) override {
     const std::string name = service + "/" + topic;
     const bool answers = conversations.count(name) != 0;
     calls.push_back((answers ? "connect " : "no answer ") + name);
-    return answers ? std::make_unique<Recording>(calls) : nullptr;
+    return answers ? std::make_unique<Recording>(*this) : nullptr;
   }
   bool start(const std::string& program, const std::string& argument) override {
     calls.push_back("start " + program + " | " + argument);
@@ -38,12 +40,13 @@ class FakeBrowsers : public BrowserSystem {
 
  private:
   struct Recording : Conversation {
-    explicit Recording(std::vector<std::string>& theCalls) : calls(theCalls) {}
-    ~Recording() override { calls.emplace_back("disconnect"); }
+    explicit Recording(FakeBrowsers& theBrowsers) : browsers(theBrowsers) {}
+    ~Recording() override { browsers.calls.emplace_back("disconnect"); }
     void request(const std::string& item, int milliseconds) override {
-      calls.push_back("request " + item + " within " + std::to_string(milliseconds));
+      browsers.calls.push_back("request " + item + " within " + std::to_string(milliseconds));
+      if (browsers.whileWaiting) browsers.whileWaiting();
     }
-    std::vector<std::string>& calls;
+    FakeBrowsers& browsers;
   };
 };
 

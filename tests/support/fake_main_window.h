@@ -217,14 +217,18 @@ class FakeMainWindow : public MainWindow {
   bool refusesDrags = false;
 
   // What a user does.
-  void clickItem(TreeItem item) { theTree.select(item); }
+  void clickItem(TreeItem item) {
+    if (logic_.isFree()) theTree.select(item);
+  }
   // A plain click on a row selects it alone.
   void clickRow(int row) {
+    if (!logic_.isFree()) return;
     for (int other = 0; other < theList.count(); ++other) theList.setSelected(other, other == row);
     logic_.rowClicked(row);
   }
   // With Ctrl held a click turns the selection of the row.
   void controlClickRow(int row) {
+    if (!logic_.isFree()) return;
     theList.setSelected(row, !theList.isSelected(row));
     logic_.rowClicked(row);
   }

@@ -29,6 +29,7 @@ class FakeScreen : public Screen {
   std::vector<std::string> tasks;  // texts of the task dialogs
   std::vector<int> taskCounts;     // counts shown in them
   std::vector<bool> waitCursor;    // changes of the wait cursor
+  int inputDrops = 0;              // times that waiting input was forgotten
   std::vector<FileChooserRequest> fileRequests;
   std::deque<std::string> files;  // to be chosen; without one the chooser is cancelled
   std::vector<std::string> folderTitles;
@@ -45,9 +46,11 @@ class FakeScreen : public Screen {
   std::vector<PopupMenu> menus;                     // that were shown
   std::deque<Command> chosenFromMenus;              // without one the menu is left
   std::function<Command(const PopupMenu&)> onMenu;  // plays the user of menus instead
+  std::function<void()> whileWaiting;               // happens while a box, a chooser or a dialog waits
 
   Answer messageBox(const MessageBoxRequest& request) override {
     boxes.push_back({std::string(request.text), std::string(request.title), request.buttons, request.icon});
+    wait();
     if (answers.empty()) return request.buttons == Buttons::Ok ? Answer::Ok : Answer::No;
     const Answer answer = answers.front();
     answers.pop_front();
@@ -58,22 +61,27 @@ class FakeScreen : public Screen {
     return task();
   }
   void showTaskCount(int count) override { taskCounts.push_back(count); }
+  void dropWaitingInput() override { ++inputDrops; }
   void setWaitCursor(bool on) override { waitCursor.push_back(on); }
   std::optional<std::string> chooseFile(const FileChooserRequest& request) override {
     fileRequests.push_back(request);
+    wait();
     return takeFirst(files);
   }
   std::optional<std::string> chooseFolder(std::string_view title) override {
     folderTitles.emplace_back(title);
+    wait();
     return takeFirst(folders);
   }
   std::optional<std::uint32_t> chooseColour(std::uint32_t start, CustomColours& custom) override {
     colourStarts.push_back(start);
+    wait();
     if (onColours) onColours(custom);
     return takeFirst(colours);
   }
   int runDialog(DialogLogic& logic) override {
     dialogs.push_back(logic.shape().id);
+    wait();
     return onDialog ? onDialog(logic) : 0;
   }
   Dialog* openDialog(std::shared_ptr<DialogLogic> logic) override {
@@ -88,6 +96,9 @@ class FakeScreen : public Screen {
   void postCommand(Command command) override { posted.push_back(command); }
 
  private:
+  void wait() const {
+    if (whileWaiting) whileWaiting();
+  }
   template <typename Value>
   static std::optional<Value> takeFirst(std::deque<Value>& values) {
     if (values.empty()) return std::nullopt;

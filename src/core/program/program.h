@@ -35,6 +35,7 @@ struct Program {
   std::array<TextSlot, kTextSlots> slots;
   LineBuffer lineBuffer;  // the text last read from a field, or the line last read from a file
   bool waitCursorShown = false;
+  bool atWork = false;  // raised by Work
 };
 
 // Sets `dirty` and refreshes the enabled state of the commands.

@@ -19,6 +19,10 @@ struct View {
   // Sets the enabled state of every menu entry, button and control.
   virtual void refreshCommandStates() {}
 
+  // Something has the program to itself from now on, and no longer.
+  virtual void workBegan() {}
+  virtual void workEnded() {}
+
   // Empties the tree and the item list.
   virtual void clearTree() {}
   // Inserts the whole tree from the root.

@@ -6,6 +6,7 @@
 #include "core/forms/field_text.h"
 #include "core/program/messages.h"
 #include "core/program/program.h"
+#include "core/program/work.h"
 #include "generator/build/build_driver.h"
 #include "generator/state/build_target.h"
 #include "generator/state/generator.h"
@@ -95,12 +96,18 @@ void StoreBuildDialog::leave() {
 }
 
 void StoreBuildDialog::build(Dialog& dialog) {
+  const Work work(generator_.program);
+  if (!work) return;
   const Text title = FieldText(dialog, kTitle);
   const Text directory = FieldText(dialog, kDirectory);
   RunBuild(generator_, std::string(directory.view()), title.view());
+  // The key of the button, pressed twice, asks for one build.
+  generator_.program.screen.dropWaitingInput();
 }
 
 void StoreBuildDialog::browse(Dialog& dialog) {
+  const Work work(generator_.program);
+  if (!work) return;
   const std::optional<std::string> chosen = generator_.program.screen.chooseFolder(message::kChooseWebDirectory);
   if (chosen) dialog.setText(kDirectory, *chosen);
 }

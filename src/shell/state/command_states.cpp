@@ -49,7 +49,8 @@ bool canSelectAll(FocusPlace focus) {
 }
 
 CommandStates::Entries entryStates(const CommandFacts& facts) {
-  return {.save = facts.dirty && facts.projectOpen,
+  return {.free = true,
+          .save = facts.dirty && facts.projectOpen,
           .needProject = facts.projectOpen,
           .needTree = facts.treeFilled,
           .copy = canCopy(facts),
@@ -71,7 +72,8 @@ CommandStates::Buttons buttonStates(const CommandFacts& facts) {
 CommandStates::Tools toolStates(const CommandFacts& facts) {
   // Deliberate: other than the buttons, the toolbar does not mind a parent that is a list.
   const bool isInShelf = isShelfOrList(facts.node) || isShelf(facts.parent);
-  return {.save = facts.dirty && facts.projectOpen && facts.treeFilled,
+  return {.free = true,
+          .save = facts.dirty && facts.projectOpen && facts.treeFilled,
           .product = facts.projectOpen && facts.node.has_value(),
           .holders = facts.projectOpen && !isInShelf,
           .buildAndPreview = facts.projectOpen && facts.treeFilled};
@@ -85,10 +87,11 @@ CommandStates::Page pageStates(const CommandFacts& facts) {
 
 }  // namespace
 
+// Buttons and fields stay as they are while something is at work: one that is turned off loses the focus.
 CommandStates commandStates(const CommandFacts& facts) {
-  return {.entries = entryStates(facts),
+  return {.entries = facts.atWork ? CommandStates::Entries{} : entryStates(facts),
           .buttons = buttonStates(facts),
-          .tools = toolStates(facts),
+          .tools = facts.atWork ? CommandStates::Tools{} : toolStates(facts),
           .page = pageStates(facts)};
 }
 

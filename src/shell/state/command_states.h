@@ -12,6 +12,7 @@ namespace varlo {
 
 // What the states depend on.
 struct CommandFacts {
+  bool atWork = false;  // something has the program to itself
   bool projectOpen = false;
   bool treeFilled = false;  // there is a root
   bool dirty = false;
@@ -35,7 +36,8 @@ struct CommandFacts {
 
 // Whether each can be used. What is not here always can.
 struct CommandStates {
-  struct Entries {  // of the main menu
+  struct Entries {      // of the main menu
+    bool free = false;  // what otherwise always can be used, and changes something
     bool save = false;
     bool needProject = false;  // Save As, Merge, Import, Credit Cards, New Category
     bool needTree = false;     // Disable, Enable, New Product, New Shelf
@@ -55,6 +57,7 @@ struct CommandStates {
     bool operator==(const Buttons&) const = default;
   } buttons;
   struct Tools {  // of the toolbar
+    bool free = false;
     bool save = false;
     bool product = false;
     bool holders = false;

@@ -51,6 +51,7 @@ struct Shell {
   bool notificationsMuted = false;  // the tree or the list is being filled
   bool listFrozen = false;          // loadItemList does nothing, while a node is moved by key
   bool listBusy = false;            // rows are being deleted; clicks do nothing
+  bool editWaits = false;           // a field changed while something was at work; read when that has ended
 
   // The form.
   std::optional<std::string> descriptionCache;  // text last put into the rich edit of a page

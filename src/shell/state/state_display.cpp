@@ -26,6 +26,16 @@ struct ControlState {
 
 using Entries = CommandStates::Entries;
 constexpr CommandState<Entries> kEntries[] = {
+    {Command::NewStore, &Entries::free},
+    {Command::OpenStore, &Entries::free},
+    {Command::RestoreBackup, &Entries::free},
+    {Command::Upgrade, &Entries::free},
+    {Command::Quit, &Entries::free},
+    {Command::NewList, &Entries::free},
+    {Command::Preferences, &Entries::free},
+    {Command::FreightRegions, &Entries::free},
+    {Command::TaxOptions, &Entries::free},
+    {Command::ImportFreight, &Entries::free},
     {Command::Save, &Entries::save},
     {Command::SaveAs, &Entries::needProject},
     {Command::Merge, &Entries::needProject},
@@ -47,6 +57,9 @@ constexpr CommandState<Entries> kEntries[] = {
 
 using Tools = CommandStates::Tools;
 constexpr CommandState<Tools> kTools[] = {
+    {Command::NewStore, &Tools::free},
+    {Command::OpenStore, &Tools::free},
+    {Command::Upgrade, &Tools::free},
     {Command::Save, &Tools::save},
     {Command::NewProduct, &Tools::product},
     {Command::NewCategory, &Tools::holders},
@@ -84,7 +97,8 @@ void gatherRichEdit(const Shell& shell, CommandFacts& facts) {
 CommandFacts gatherFacts(const Shell& shell) {
   const StoreProject& project = shell.program.project;
   const AppConfig& config = shell.program.config;
-  CommandFacts facts{.projectOpen = project.projectFile.isSet(),
+  CommandFacts facts{.atWork = shell.program.atWork,
+                     .projectOpen = project.projectFile.isSet(),
                      .treeFilled = project.root != nullptr,
                      .dirty = project.dirty != 0,
                      .tab = shell.currentTab,

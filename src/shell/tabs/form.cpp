@@ -10,10 +10,20 @@
 #include "shell/state/state_display.h"
 
 namespace varlo {
+namespace {
+
+// Deliberate: a change marks the project, whether or not the form then differs from the node.
+void takeEdit(Shell& shell) {
+  readForm(shell);
+  SetDirty(shell.program, 1);
+}
+
+}  // namespace
 
 void loadForm(Shell& shell) {
   if (shell.formBusy) return;
   shell.formLoading = true;
+  shell.editWaits = false;
   if (shell.tabPage != nullptr) {
     refreshCommandStates(shell);
     if (shell.tabPage != nullptr && shell.pageLogic != nullptr) shell.pageLogic->fill(*shell.tabPage);
@@ -26,15 +36,20 @@ void readForm(Shell& shell) {
   shell.pageLogic->read(*shell.tabPage);
 }
 
-// Deliberate: a change marks the project, whether or not the form then differs from the node.
+void readWaitingEdit(Shell& shell) {
+  if (!shell.editWaits || shell.program.atWork) return;
+  shell.editWaits = false;
+  takeEdit(shell);
+}
+
 bool onFieldCommand(Shell& shell, const ControlEvent& event) {
   if (event.notice == Notice::GotFocus) {
     shell.program.view.showHelp(event.control);
     return true;
   }
   if (event.notice != Notice::Changed || shell.formLoading) return false;
-  readForm(shell);
-  SetDirty(shell.program, 1);
+  shell.editWaits = shell.program.atWork;
+  if (!shell.editWaits) takeEdit(shell);
   return true;
 }
 

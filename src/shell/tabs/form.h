@@ -14,6 +14,9 @@ void loadForm(Shell& shell);
 // Reads the open page into the model. Fields call onFieldCommand instead.
 void readForm(Shell& shell);
 
+// Reads the page when a field changed while something was at work.
+void readWaitingEdit(Shell& shell);
+
 // Every page passes each notification of its fields here first. True when it acted.
 bool onFieldCommand(Shell& shell, const ControlEvent& event);
 

@@ -6,6 +6,7 @@
 #include "core/forms/field_text.h"
 #include "core/program/messages.h"
 #include "core/program/program.h"
+#include "core/program/work.h"
 #include "core/text/paths.h"
 #include "core/text/text_search.h"
 #include "core/tree/store_tree.h"
@@ -22,6 +23,8 @@ using namespace inventory;
 constexpr std::size_t kImageFolder = 2;
 
 void showImage(Shell& shell, Text StoreNode::*image) {
+  const Work work(shell.program);
+  if (!work) return;
   const StoreNode* node = shell.program.project.currentNode;
   if (node != nullptr && (node->*image).isSet()) openInBrowser(shell, (node->*image).view());
 }
@@ -105,6 +108,16 @@ constexpr Row kRows[] = {
        .lines = kFill}},
      4},
 };
+
+std::optional<std::string> chooseImageFile(Program& program, std::string_view title) {
+  const Work work(program);
+  if (!work) return std::nullopt;
+  Text& folder = program.config.lastDir[kImageFolder];
+  std::optional<std::string> path = program.screen.chooseFile(
+      {.folder = folder.orEmpty(), .title = title, .filter = message::kImageFilter, .extension = {}});
+  if (path) folder.assign(std::string_view(*path).substr(0, path->rfind('\\')));
+  return path;
+}
 
 void enableLinkButton(Dialog& page) { page.enable(kShowImageLink, !page.text(kImageLink).empty()); }
 
@@ -218,7 +231,7 @@ void InventoryPage::templateTouched(Dialog& page) {
 // Deliberate: a node without a template of its own gets none by a choice; what is typed reaches it all the same.
 void InventoryPage::templateChosen(Dialog& page) {
   StoreNode* node = shell_.program.project.currentNode;
-  if (node == nullptr || !node->templateName.isSet()) return;
+  if (shell_.program.atWork || node == nullptr || !node->templateName.isSet()) return;
   const Text chosen = FieldText(page, kTemplate, kFieldText);
   if (EqualsNoCase(chosen.view(), node->templateName.view())) return;
   SetDirty(shell_.program, 1);
@@ -264,14 +277,10 @@ void InventoryPage::pressed(Dialog& page, ControlId button) {
   }
 }
 
-// The change of the field stores the path.
+// The change of the field stores the path, once the work of choosing is over.
 void InventoryPage::chooseImage(Dialog& page, ControlId field, std::string_view title) {
-  Text& folder = shell_.program.config.lastDir[kImageFolder];
-  const std::optional<std::string> path = shell_.program.screen.chooseFile(
-      {.folder = folder.orEmpty(), .title = title, .filter = message::kImageFilter, .extension = {}});
-  if (!path) return;
-  folder.assign(std::string_view(*path).substr(0, path->rfind('\\')));
-  page.setText(field, *path);
+  const std::optional<std::string> path = chooseImageFile(shell_.program, title);
+  if (path) page.setText(field, *path);
 }
 
 }  // namespace varlo

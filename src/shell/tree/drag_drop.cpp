@@ -121,7 +121,7 @@ void onDragMoved(Shell& shell, Point point) {
   if (edge != Edge::Inside) tree.scroll(edge);
 }
 
-void onDragReleased(Shell& shell, Point point) {
+void onDragReleased(Shell& shell, Point point, bool mayDrop) {
   if (!isDragging(shell) || shell.mainWindow == nullptr) return;
   const bool rows = shell.listDragging;
   // Down at once: giving the mouse back tells of a release again.
@@ -131,7 +131,7 @@ void onDragReleased(Shell& shell, Point point) {
   StoreNode* target = nodeOfItem(shell, shell.mainWindow->tree().itemAt(point));
   shell.mainWindow->endDrag();
   highlightItem(shell, kNoTreeItem);
-  if (target != nullptr) dropOn(shell, target, rows);
+  if (mayDrop && target != nullptr) dropOn(shell, target, rows);
   forgetDrag(shell);
   refreshCommandStates(shell);
 }

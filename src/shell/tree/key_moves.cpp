@@ -1,6 +1,7 @@
 #include "shell/tree/key_moves.h"
 
 #include "core/program/program.h"
+#include "core/program/work.h"
 #include "core/tree/store_tree.h"
 #include "shell/state/guards.h"
 #include "shell/state/shell.h"
@@ -23,6 +24,7 @@ void reinsertBehind(Shell& shell, StoreNode& node, const StoreNode& sibling) {
 }
 
 void moveDown(Shell& shell) {
+  const Work work(shell.program);
   StoreNode* node = shell.program.project.treeNode;
   if (node == nullptr) return;
   const StoreNode* sibling = node->next;
@@ -35,6 +37,7 @@ void moveDown(Shell& shell) {
 bool hasPrev(const StoreNode& node) { return node.prev != nullptr && !node.prev->released; }
 
 void moveUp(Shell& shell) {
+  const Work work(shell.program);
   StoreNode* node = shell.program.project.treeNode;
   if (node == nullptr || !hasPrev(*node)) return;
   StoreNode* sibling = node->prev;

@@ -47,14 +47,11 @@ void selectCurrent(Shell& shell, StoreNode* node) {
 }
 
 void selectInTree(Shell& shell, StoreNode& node) {
-  bool told = false;
-  if (shell.mainWindow != nullptr && node.treeItem != kNoTreeItem) {
-    TreeWindow& tree = shell.mainWindow->tree();
-    told = tree.selected() != node.treeItem;
-    tree.select(node.treeItem);
-    tree.ensureVisible(node.treeItem);
-  }
-  if (!told) selectCurrent(shell, &node);
+  const bool shown = shell.mainWindow != nullptr && node.treeItem != kNoTreeItem;
+  const bool moves = shown && shell.mainWindow->tree().selected() != node.treeItem;
+  selectCurrent(shell, &node);
+  if (shown) shell.mainWindow->tree().ensureVisible(node.treeItem);
+  if (moves) showTreeHelp(shell);
 }
 
 void onTreeSelection(Shell& shell, TreeItem item) {

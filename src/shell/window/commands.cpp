@@ -6,6 +6,7 @@
 
 #include "core/program/messages.h"
 #include "core/program/program.h"
+#include "core/program/work.h"
 #include "persist/dialogs/preferences_dialog.h"
 #include "persist/dialogs/restore_dialog.h"
 #include "persist/dialogs/save_as_dialog.h"
@@ -90,9 +91,13 @@ void openOnSite(Shell& shell, std::string_view path) { openInBrowser(shell, std:
 void openFaq(Shell& shell) { openOnSite(shell, "/faq/varlo.faq"); }
 void openManual(Shell& shell) { openOnSite(shell, "/varlo/manual.htm"); }
 
+// Work waits for nothing else to be at work. What changes nothing in the store need not.
+enum class Kind { Work, Harmless };
+
 struct CommandRow {
   Command command = Command::None;
   void (*run)(Shell&) = nullptr;
+  Kind kind = Kind::Work;
 };
 
 constexpr CommandRow kCommands[] = {
@@ -115,17 +120,17 @@ constexpr CommandRow kCommands[] = {
     {Command::NewList, makeNode<NodeKind::List>},
     {Command::SelectAll, selectAllAtFocus},
 
-    {Command::ViewOrders, viewOrders},
-    {Command::ToggleToolbar, toggleView<kViewToolbar, Command::ToggleToolbar>},
-    {Command::ToggleButtons, toggleView<kViewButtons, Command::ToggleButtons>},
+    {Command::ViewOrders, viewOrders, Kind::Harmless},
+    {Command::ToggleToolbar, toggleView<kViewToolbar, Command::ToggleToolbar>, Kind::Harmless},
+    {Command::ToggleButtons, toggleView<kViewButtons, Command::ToggleButtons>, Kind::Harmless},
 
     {Command::Preferences, runDialog<PreferencesDialog>},
     {Command::PreviewPage, previewCurrent},
     {Command::BuildStore, openBuildWindow},
     {Command::ImportFreight, importFreight},
 
-    {Command::Faq, openFaq},
-    {Command::Manual, openManual},
+    {Command::Faq, openFaq, Kind::Harmless},
+    {Command::Manual, openManual, Kind::Harmless},
 
     {Command::TreeNewCategory, newCategoryAtMouse},
     {Command::TreeCopy, copyNode},
@@ -142,14 +147,17 @@ constexpr CommandRow kCommands[] = {
     {Command::ListSelectAll, selectAllRows},
 
     {Command::RefillTree, refillTree},
-    {Command::ResizeMainWindow, resizeMainWindow},
+    {Command::ResizeMainWindow, resizeMainWindow, Kind::Harmless},
 };
 
 }  // namespace
 
 void dispatchCommand(Shell& shell, Command command) {
   const auto* row = std::ranges::find(kCommands, command, &CommandRow::command);
-  if (row != std::end(kCommands)) row->run(shell);
+  if (row == std::end(kCommands)) return;
+  if (row->kind == Kind::Harmless) return row->run(shell);
+  const Work work(shell.program);
+  if (work) row->run(shell);
 }
 
 }  // namespace varlo

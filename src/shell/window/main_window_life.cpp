@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/program/program.h"
+#include "core/program/work.h"
 #include "persist/life/start_up.h"
 #include "persist/project/project_load.h"
 #include "shell/state/shell.h"
@@ -46,6 +47,7 @@ void showRest(Shell& shell) {
 
 void setUpMainWindow(Shell& shell, MainWindow& window) {
   shell.mainWindow = &window;
+  const Work work(shell.program);
   tickViews(shell);
   setTabLabels(window);
   setStatusParts(window);
@@ -59,6 +61,7 @@ void setUpMainWindow(Shell& shell, MainWindow& window) {
 }
 
 void closeMainWindow(Shell& shell) {
+  const Work work(shell.program);
   shell.generator.log.stopRequested = true;
   ShutDownWindow(shell.program);
   closeTabPage(shell);

@@ -20,6 +20,7 @@ class MainWindowShell : public MainWindowLogic {
   void closing() override;
   std::string_view toolTip(Command command) override;
   void focusMoved() override;
+  [[nodiscard]] bool isFree() const override;
 
   void treeSelectionChanged(TreeItem item) override;
   void treeItemExpanding(TreeItem item) override;

@@ -18,6 +18,12 @@ void ShellView::loadItemList(StoreNode* holder) {
 void ShellView::refreshCommandStates() {
   if (shell_ != nullptr) varlo::refreshCommandStates(*shell_);
 }
+void ShellView::workBegan() { refreshCommandStates(); }
+void ShellView::workEnded() {
+  if (shell_ == nullptr) return;
+  varlo::refreshCommandStates(*shell_);
+  readWaitingEdit(*shell_);
+}
 void ShellView::clearTree() {
   if (shell_ != nullptr) varlo::clearTree(*shell_);
 }

@@ -15,6 +15,8 @@ class ShellView : public View {
   void loadForm() override;
   void loadItemList(StoreNode* holder) override;
   void refreshCommandStates() override;
+  void workBegan() override;
+  void workEnded() override;
   void clearTree() override;
   void fillTree() override;
   void insertTreeItem(StoreNode& node, StoreNode* behind) override;

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/program/work.h"
 #include "tests/support/fake_window.h"
 #include "tests/support/project_text.h"
 #include "tests/support/test_shop.h"
@@ -175,6 +176,22 @@ TEST_F(StoreBuild, ABadDirectoryIsToldAndNothingIsBuilt) {
   window.press(kBuild);
   EXPECT_EQ(t.screen.boxes.size(), 1U);
   EXPECT_THAT(t.files.names(), testing::IsEmpty());
+}
+
+TEST_F(StoreBuild, WhatWasTypedDuringTheBuildIsForgotten) {
+  window.open();
+  window.press(kBuild);
+  EXPECT_EQ(t.screen.inputDrops, 1);
+}
+
+TEST_F(StoreBuild, BeginsNothingWhileSomethingIsAtWork) {
+  window.open();
+  const std::vector<std::string> before = window.listBoxRows(kLog);
+  const Work work(t.program);
+  window.press(kBuild);
+  window.press(kBrowse);
+  EXPECT_EQ(window.listBoxRows(kLog), before);
+  EXPECT_TRUE(t.screen.folderTitles.empty());
 }
 
 }  // namespace

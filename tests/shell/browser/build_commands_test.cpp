@@ -262,5 +262,70 @@ TEST_F(BuildStoreCommand, AWindowThatCannotBeMadeIsTriedAgain) {
   EXPECT_THAT(t.screen.dialogs, ElementsAre(store_build::kWindow, store_build::kWindow));
 }
 
+// Nothing is there that its pages are made of, so the build shows box upon box.
+class BuildWithBoxes : public BuildStoreCommand {
+ protected:
+  static constexpr const char* kOtherPath = "C:\\Varlo\\Projects\\Other\\Other.stp";
+
+  void SetUp() override {
+    BuildStoreCommand::SetUp();
+    t.nameShop();
+    t.files.put(kOtherPath, "VERSION=107001\nNODE0=Books\n");
+    t.files.putFolder("C:\\Varlo\\Projects\\Shop\\Web");
+    SchemeRecord* style = SchemeInit(nullptr);
+    t.config().schemeStyles = t.config().currentStyle = style;
+    t.project().currentNode = nullptr;
+    t.project().root = nullptr;
+    t.open();
+    t.runPosted();
+    run();
+  }
+  void build() { windows[0]->press(control::store_build::kBuild); }
+  std::string logged(std::size_t row) { return windows[0]->listBoxRows(control::store_build::kLog).at(row); }
+};
+
+TEST_F(BuildWithBoxes, NoCommandTakesTheStoreFromUnderTheWalk) {
+  int waits = 0;
+  t.screen.whileWaiting = [&] {
+    ++waits;
+    t.screen.files = {kOtherPath};
+    t.logic.command(Command::OpenStore);
+    t.logic.command(Command::TreeDelete);
+    t.logic.closeRequested();
+  };
+  build();
+  EXPECT_GE(waits, 4);
+  EXPECT_EQ(TreeText(t.project()), "Home(Toys(Ball),Bats,Rows)");
+  EXPECT_THAT(t.screen.fileRequests, IsEmpty());
+  EXPECT_FALSE(t.window.ended());
+}
+
+TEST_F(BuildWithBoxes, NoSecondBuildBegins) {
+  build();
+  const std::size_t boxes = t.screen.boxes.size();
+  t.screen.boxes.clear();
+  t.screen.whileWaiting = [&] { build(); };
+  build();
+  EXPECT_EQ(t.screen.boxes.size(), boxes);
+}
+
+TEST_F(BuildWithBoxes, TheWindowCanBeClosedAndNoOtherTakesItsPlace) {
+  const void* dialog = t.shell.buildDialog.get();
+  t.screen.whileWaiting = [&] {
+    windows[0]->close();
+    run();
+  };
+  build();
+  EXPECT_EQ(t.shell.buildDialog.get(), dialog);
+  EXPECT_EQ(windows.size(), 1U);
+}
+
+TEST_F(BuildWithBoxes, TheChooserOfTheDirectoryHasTheProgramToItself) {
+  t.screen.whileWaiting = [&] { t.logic.command(Command::TreeDelete); };
+  windows[0]->press(control::store_build::kBrowse);
+  EXPECT_EQ(TreeText(t.project()), "Home(Toys(Ball),Bats,Rows)");
+  EXPECT_EQ(t.screen.folderTitles.size(), 1U);
+}
+
 }  // namespace
 }  // namespace varlo

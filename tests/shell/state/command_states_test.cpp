@@ -80,6 +80,7 @@ CommandStates states(const CommandFacts& f) {
   const bool store = f.projectOpen && f.treeFilled;
   const bool ready = store && f.node;
   CommandStates s;
+  s.entries.free = s.tools.free = true;
   s.entries.save = f.dirty && f.projectOpen;
   s.entries.needProject = f.projectOpen;
   s.entries.needTree = f.treeFilled;
@@ -175,6 +176,16 @@ TEST(CommandStatesTable, EveryPlaceOfTheFocusWithEverySelection) {
       if (!(commandStates(facts) == oracle::states(facts))) ++differing;
     });
     EXPECT_EQ(differing, 0);
+  }
+}
+
+TEST(CommandStatesTable, WhileSomethingIsAtWorkEntriesAndToolsAreOffAndTheRestIsAsEver) {
+  for (CommandFacts facts : storeFacts()) {
+    facts.atWork = true;
+    CommandStates expected = oracle::states(facts);
+    expected.entries = {};
+    expected.tools = {};
+    ASSERT_EQ(commandStates(facts), expected);
   }
 }
 

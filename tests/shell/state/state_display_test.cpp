@@ -1,12 +1,16 @@
 #include "shell/state/state_display.h"
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "core/program/scheme.h"
+#include "core/program/work.h"
 #include "core/store/user_variable.h"
 #include "platform/main_window.h"
 #include "shell/tabs/inventory_page.h"
 #include "shell/tabs/tab_switch.h"
+#include "shell/window/toolbar.h"
 #include "tests/support/page_stand_in.h"
 #include "tests/support/test_shell.h"
 #include "tests/support/tree.h"
@@ -55,6 +59,47 @@ TEST_F(States, WithNoProjectOnlyWhatNeedsNoneIsUsable) {
                                     Command::ImportFreight, Command::About,         Command::Help,
                                     Command::Faq,           Command::Manual};
   EXPECT_EQ(enabledOf(always), always);
+}
+
+TEST_F(States, WhileSomethingIsAtWorkOnlyWhatIsHarmlessIsUsable) {
+  openShop();
+  t.project().dirty = 1;
+  const Work work(t.program);
+  const std::vector<Command> harmless{Command::ViewOrders, Command::ToggleToolbar, Command::ToggleButtons,
+                                      Command::About,      Command::Help,          Command::Faq,
+                                      Command::Manual};
+  EXPECT_EQ(enabledOf(harmless), harmless);
+  EXPECT_EQ(enabledOf({Command::NewStore,       Command::OpenStore,   Command::Save,         Command::SaveAs,
+                       Command::RestoreBackup,  Command::Import,      Command::Merge,        Command::Upgrade,
+                       Command::Quit,           Command::Copy,        Command::Paste,        Command::Disable,
+                       Command::Enable,         Command::Delete,      Command::NewCategory,  Command::NewProduct,
+                       Command::NewShelf,       Command::NewList,     Command::Find,         Command::SelectAll,
+                       Command::Preferences,    Command::PreviewPage, Command::BuildStore,   Command::CreditCards,
+                       Command::FreightRegions, Command::TaxOptions,  Command::ImportFreight}),
+            std::vector<Command>{});
+  for (const ToolbarButton& button : toolbarButtons()) {
+    const bool harmlessTool = std::ranges::count(harmless, button.command) != 0;
+    if (button.command != Command::None) {
+      EXPECT_EQ(t.window.toolEnabled(button.command), harmlessTool) << static_cast<int>(button.command);
+    }
+  }
+}
+
+TEST_F(States, ComeBackWhenTheWorkHasEnded) {
+  openShop();
+  { const Work work(t.program); }
+  EXPECT_TRUE(t.window.entryEnabled(Command::OpenStore));
+  EXPECT_TRUE(t.window.entryEnabled(Command::SaveAs));
+  EXPECT_TRUE(t.window.toolEnabled(Command::NewStore));
+}
+
+// A button or a field that is turned off would lose the focus.
+TEST_F(States, OfButtonsAndFieldsStayWhileSomethingIsAtWork) {
+  openShop();
+  openPage();
+  const Work work(t.program);
+  EXPECT_TRUE(t.window.frame().isEnabled(control::main::kProduct));
+  EXPECT_TRUE(page.window.isEnabled(control::inventory::kTitle));
 }
 
 TEST_F(States, AShopEnablesMenuButtonsAndTools) {

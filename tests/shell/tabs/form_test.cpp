@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "core/program/work.h"
 #include "core/text/limits.h"
 #include "shell/tabs/inventory_page.h"
 #include "shell/tabs/tab_switch.h"
@@ -466,6 +467,43 @@ TEST_F(DigitsOnly, LeavesAloneWhatNeedsNoChange) {
   EXPECT_FALSE(t.page->caretAtEnd(kTax));
   EXPECT_EQ(of(""), "");
   EXPECT_THAT(t.page->filled, IsEmpty());
+}
+
+TEST(FormDuringWork, AnEditReachesTheNodeWhenTheWorkHasEnded) {
+  TestShell t;
+  t.nameShop();
+  t.open();
+  FakeWindow& page = *t.window.page();
+  {
+    const Work work(t.program);
+    page.type(kTitle, "House");
+    page.type(kTitle, "Houses");
+    EXPECT_EQ(t.project().root->title.view(), "Home");
+    EXPECT_EQ(t.project().dirty, 0);
+  }
+  EXPECT_EQ(t.project().root->title.view(), "Houses");
+  EXPECT_EQ(t.project().dirty, 1);
+}
+
+TEST(FormDuringWork, AnEditIsForgottenWhenTheFormIsFilledAnew) {
+  TestShell t;
+  t.nameShop();
+  t.open();
+  {
+    const Work work(t.program);
+    t.window.page()->type(kTitle, "House");
+    loadForm(t.shell);
+  }
+  EXPECT_EQ(t.project().root->title.view(), "Home");
+  EXPECT_EQ(t.project().dirty, 0);
+}
+
+TEST(FormDuringWork, NoEditWaitsWhereNoneWasMade) {
+  TestShell t;
+  t.nameShop();
+  t.open();
+  { const Work work(t.program); }
+  EXPECT_EQ(t.project().dirty, 0);
 }
 
 }  // namespace

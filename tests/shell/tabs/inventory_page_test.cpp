@@ -1,5 +1,6 @@
 #include "shell/tabs/inventory_page.h"
 
+#include "core/program/work.h"
 #include "shell/tabs/form.h"
 #include "shell/tabs/tab_switch.h"
 #include "tests/support/test_form.h"
@@ -282,6 +283,47 @@ TEST_F(Inventory, TheTitleFollowsInTheTreeAlsoWhenItIsTheSame) {
   shelled.window.page()->type(kTitle, "Home");
   EXPECT_EQ(shelled.window.theTree.labelOf(node->treeItem), "Home");
   closeTabPage(shelled.shell);
+}
+
+TEST_F(Inventory, ItsButtonsBeginNothingWhileSomethingIsAtWork) {
+  t.ball->image.assign("a.gif");
+  t.ball->imageLink.assign("b.gif");
+  loadForm(t.shell);
+  const Work work(t.program);
+  for (const ControlId button : {kShowImage, kShowImageLink, kChooseImage, kChooseImageLink}) t.page->press(button);
+  EXPECT_THAT(t.browsers.calls, IsEmpty());
+  EXPECT_THAT(t.screen.fileRequests, IsEmpty());
+}
+
+TEST_F(Inventory, AChosenTemplateWaitsForNobody) {
+  t.ball->templateName.assign("product.htm");
+  t.page->addComboRow(kTemplate, "big.htm");
+  t.page->pickComboRow(kTemplate, 0);
+  const Work work(t.program);
+  t.page->deliverPosts();
+  EXPECT_EQ(t.ball->templateName.view(), "product.htm");
+}
+
+TEST_F(Inventory, ItsChooserHasTheProgramToItself) {
+  bool free = true;
+  t.screen.whileWaiting = [&] { free = !t.program.atWork; };
+  t.screen.files = {"C:\\a.gif"};
+  t.page->press(kChooseImage);
+  EXPECT_FALSE(free);
+  EXPECT_EQ(t.ball->image.view(), "C:/a.gif");  // stored at once all the same
+  EXPECT_EQ(t.project().dirty, 1);
+}
+
+TEST_F(Inventory, TheBrowserThatShowsAnImageHasTheProgramToItself) {
+  t.config().browser.assign("C:\\web.exe");
+  t.browsers.conversations = {"web/WWW_Activate", "web/WWW_OpenURL"};
+  t.ball->image.assign("a.gif");
+  loadForm(t.shell);
+  int waits = 0;
+  t.browsers.whileWaiting = [&] { waits += t.program.atWork ? 1 : 0; };
+  t.page->press(kShowImage);
+  EXPECT_EQ(waits, 2);
+  EXPECT_FALSE(t.program.atWork);
 }
 
 }  // namespace

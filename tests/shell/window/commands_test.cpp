@@ -61,6 +61,89 @@ TEST_F(Commands, OnesThatAreNotKnownDoNothing) {
   EXPECT_THAT(t.screen.posted, IsEmpty());
 }
 
+// Every command, whether there is one by its number or not.
+template <typename Visit>
+void forEachCommand(const Visit& visit) {
+  for (int number = static_cast<int>(Command::NewStore); number <= static_cast<int>(Command::ResizeMainWindow);
+       ++number) {
+    visit(static_cast<Command>(number));
+  }
+}
+
+TEST_F(Commands, ThatChangeTheStoreDoNotRunWhileABoxOfOneWaits) {
+  openShop();
+  putOther();
+  selectCurrent(t.shell, root()->child);
+  run(Command::TreeCopy);
+  const std::string before = TreeText(t.project());
+  StoreNode* const current = t.project().currentNode;
+  SetDirty(t.program, 1);
+  t.screen.answers = {Answer::No};
+  int waits = 0;
+  t.screen.whileWaiting = [&] {
+    ++waits;
+    t.screen.files = {kOtherPath};
+    forEachCommand([&](Command command) { t.logic.command(command); });
+    EXPECT_EQ(TreeText(t.project()), before);
+    EXPECT_EQ(t.project().currentNode, current);
+    EXPECT_EQ(t.project().dirty, 1);
+    EXPECT_FALSE(t.window.ended());
+  };
+  run(Command::TreeDelete);
+  EXPECT_EQ(waits, 1);
+  EXPECT_EQ(t.screen.boxes.size(), 1U);
+  EXPECT_THAT(t.screen.fileRequests, IsEmpty());
+  EXPECT_THAT(t.screen.dialogs, IsEmpty());
+  EXPECT_EQ(TreeText(t.project()), before);
+}
+
+TEST_F(Commands, ThatChangeTheStoreDoNotRunWhileAChooserWaits) {
+  openShop();
+  putOther();
+  t.screen.whileWaiting = [&] {
+    EXPECT_EQ(t.screen.fileRequests.size(), 1U);
+    for (const Command command : {Command::OpenStore, Command::Merge, Command::ImportFreight, Command::Quit}) {
+      t.logic.command(command);
+    }
+    t.logic.closeRequested();
+    EXPECT_FALSE(t.window.ended());
+  };
+  t.screen.files = {kOtherPath};
+  run(Command::OpenStore);
+  EXPECT_EQ(TreeText(t.project()), "Books(Atlas)");
+  EXPECT_EQ(t.screen.fileRequests.size(), 1U);
+}
+
+TEST_F(Commands, ThatChangeTheStoreDoNotRunWhileABrowserIsSpokenTo) {
+  openShop();
+  t.config().browser.assign("C:\\web.exe");
+  t.browsers.conversations = {"web/WWW_Activate", "web/WWW_OpenURL"};
+  t.project().webDir.assign("C:\\Varlo\\Web");
+  t.project().projectScheme = t.config().currentStyle = t.config().schemeStyles;
+  t.browsers.whileWaiting = [&] { t.logic.command(Command::NewCategory); };
+  const std::string before = TreeText(t.project());
+  run(Command::PreviewPage);
+  EXPECT_EQ(TreeText(t.project()), before);
+}
+
+TEST_F(Commands, ThatAreHarmlessRunWhileABoxWaits) {
+  openShop();
+  SetDirty(t.program, 1);
+  t.screen.whileWaiting = [&] { t.logic.command(Command::ToggleToolbar); };
+  run(Command::Quit);
+  EXPECT_EQ(t.config().viewFlags, kViewButtons);
+}
+
+TEST_F(Commands, RunAgainWhenTheOneBeforeHasEnded) {
+  openShop();
+  selectCurrent(t.shell, root()->child);
+  t.screen.whileWaiting = [&] { t.logic.command(Command::NewProduct); };
+  run(Command::TreeDelete);
+  EXPECT_EQ(TreeText(t.project()), "Home(Toys(Ball),Bats,Rows)");
+  run(Command::NewProduct);
+  EXPECT_EQ(TreeText(t.project()), "Home(Toys(Ball,New Product),Bats,Rows)");
+}
+
 TEST_F(Commands, OpenOffersToSaveAfterTheChoiceAndShowsTheOtherProject) {
   openShop();
   putOther();

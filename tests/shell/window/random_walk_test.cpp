@@ -54,6 +54,7 @@ class RandomWalk {
     EXPECT_GT(opened_, kSteps / 2000);
     EXPECT_GT(emptied_, kSteps / 4000);
     EXPECT_GT(previews_, 0);
+    EXPECT_GT(meddlings_, kSteps / 20);
   }
 
  private:
@@ -321,8 +322,9 @@ class RandomWalk {
 
   void save() {
     const bool offered = t_.window.entryEnabled(Command::Save);
+    typedBehind_ = false;
     byMenu(Command::Save);
-    EXPECT_TRUE(!offered || project_.dirty == 0);
+    EXPECT_TRUE(!offered || project_.dirty == 0 || typedBehind_);
   }
 
   // Beside a category, since only products belong beside others.
@@ -375,6 +377,85 @@ class RandomWalk {
     runPosted();
   }
 
+  // While a box, a chooser or a browser waits, the user, or a hasty message, does this and that behind it. Nothing of
+  // the store changes by it.
+  void meddle() {
+    if (!t_.program.atWork || meddling_ || oneIn(2)) return;
+    meddling_ = true;
+    const std::deque<Answer> answers = t_.screen.answers;
+    const std::deque<std::string> files = t_.screen.files;
+    const std::string before = storeText();
+    for (std::size_t i = 1 + below(4); i > 0; --i) {
+      doBehindTheBox();
+      ++meddlings_;
+    }
+    EXPECT_EQ(storeText(), before);
+    t_.screen.answers = answers;
+    t_.screen.files = files;
+    meddling_ = false;
+  }
+
+  void doBehindTheBox() {
+    t_.screen.files = {kAtticPath};
+    t_.screen.answers.assign(3, Answer::Yes);
+    aim();
+    switch (below(12)) {
+      case 0:
+        return t_.logic.closeRequested();
+      case 1:
+        return clickItem();
+      case 2:
+        return t_.logic.treeSelectionChanged(anyItem());
+      case 3:
+        return t_.logic.treeItemExpanding(anyItem());
+      case 4:
+        return oneIn(2) ? t_.logic.treeRightClicked(anyPoint()) : t_.logic.listRightClicked(anyPoint());
+      case 5:
+        return clickRow();
+      case 6:
+        t_.logic.treeKey(oneIn(2) ? Key::KeypadPlus : Key::Delete);
+        return t_.logic.listKey(Key::Delete, false);
+      case 7:
+        t_.logic.treeDragBegun(anyItem());
+        return t_.logic.dragReleased(anyPoint());
+      case 8:
+        return t_.window.pickTab(static_cast<int>(below(kTabs)));
+      case 9:
+        return meddleWithThePage();
+      default:
+        return t_.logic.command(anyCommand());
+    }
+  }
+
+  void meddleWithThePage() {
+    namespace ids = control::inventory;
+    if (form() == nullptr) return;
+    const ControlId field = at(below(kFields));
+    typedBehind_ = typedBehind_ || form()->isEnabled(field);
+    if (form()->isEnabled(field)) form()->type(field, "behind");
+    form()->press(oneIn(2) ? ids::kChooseImage : ids::kShowImage);
+    form()->deliverPosts();
+  }
+
+  Command anyCommand() {
+    constexpr int kFirst = static_cast<int>(Command::NewStore);
+    constexpr int kLast = static_cast<int>(Command::ResizeMainWindow);
+    if (oneIn(2)) return Command::OpenStore;
+    return static_cast<Command>(kFirst + static_cast<int>(below(kLast - kFirst + 1)));
+  }
+
+  // All of the store that a command could change.
+  std::string storeText() {
+    std::string text = TreeText(project_) + "|" + project_.projectFile.orEmpty() + "|" + t_.window.title();
+    for (const auto* node : {project_.root, project_.currentNode, project_.treeNode}) {
+      text.append("|").append(std::to_string(reinterpret_cast<std::uintptr_t>(node)));
+    }
+    const StoreNode* node = project_.currentNode;
+    if (node != nullptr) text.append(node->body.orEmpty()).append("|").append(node->templateName.orEmpty());
+    return text + "|" + std::to_string(project_.nodes.size()) + "|" + std::to_string(project_.dirty) + "|" +
+           std::to_string(static_cast<int>(shell_.currentTab));
+  }
+
   void putStores() {
     t_.putShop();
     t_.files.put(kAtticPath, kAtticText);
@@ -404,6 +485,8 @@ class RandomWalk {
     t_.config().orderServer.assign("orders.example");
     t_.config().browser.assign("C:\\Browser\\browser.exe");
     t_.project().projectFile.assign(kShopPath);
+    t_.screen.whileWaiting = t_.browsers.whileWaiting = [this] { meddle(); };
+    t_.browsers.conversations = {"browser/WWW_Activate", "browser/WWW_OpenURL"};
     t_.screen.onMenu = [this](const PopupMenu& menu) { return chooseFrom(menu); };
     t_.open();
     runPosted();
@@ -468,6 +551,7 @@ class RandomWalk {
   void checkGuards() {
     EXPECT_FALSE(shell_.notificationsMuted || shell_.listFrozen || shell_.listBusy);
     EXPECT_FALSE(shell_.formLoading || shell_.formBusy || shell_.launchBusy || t_.program.waitCursorShown);
+    EXPECT_FALSE(t_.program.atWork || shell_.editWaits);
     EXPECT_FALSE(shell_.treeDragging || shell_.listDragging);
     EXPECT_FALSE(t_.window.theTree.paintingIsHeld() || t_.window.theList.paintingIsHeld());
     EXPECT_EQ(shell_.dropHighlight, kNoTreeItem);
@@ -549,6 +633,9 @@ class RandomWalk {
   int opened_ = 0;   // stores
   int emptied_ = 0;  // steps with an empty tree
   int previews_ = 0;
+  int meddlings_ = 0;  // done behind a box
+  bool meddling_ = false;
+  bool typedBehind_ = false;  // into the form, so that its node changes when the box is gone
   int wholeTrees_ = 0;       // that were compared node by node
   bool apart_ = false;       // an item was expanded that is not selected
   bool movedByKey_ = false;  // since the tree was filled
