@@ -17,6 +17,8 @@ struct Conversation {
 
 struct BrowserSystem {
   virtual ~BrowserSystem() = default;
+  // The window that started programs belong to, as the machine knows it; null for none.
+  virtual void setOwner(void* /*window*/) {}
   // Connects to a running program by its service name; null when none answers, or where the machine knows
   // no such conversations.
   virtual std::unique_ptr<Conversation> connect(const std::string& service, const std::string& topic) = 0;

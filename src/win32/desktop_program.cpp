@@ -7,7 +7,8 @@
 namespace varlo {
 
 DesktopProgram::DesktopProgram(Machine& machine)
-    : program_(*machine.files, *machine.clock, screen_, *machine.clipboard, view_),
+    : browsers_(*machine.browsers),
+      program_(*machine.files, *machine.clock, screen_, *machine.clipboard, view_),
       shell_(program_, *machine.browsers) {
   view_.setShell(&shell_);
   StartUp(program_);
@@ -17,9 +18,14 @@ DesktopProgram::DesktopProgram(Machine& machine)
 DesktopProgram::~DesktopProgram() { view_.setShell(nullptr); }
 
 bool DesktopProgram::run() {
-  const bool shown = RunMainWindow(logic_, [this](HWND window) { screen_.setOwner(window); });
-  screen_.setOwner(nullptr);
+  const bool shown = RunMainWindow(logic_, [this](HWND window) { setOwner(window); });
+  setOwner(nullptr);
   return shown;
+}
+
+void DesktopProgram::setOwner(HWND window) {
+  screen_.setOwner(window);
+  browsers_.setOwner(window);
 }
 
 int RunDesktop(Machine& machine) {

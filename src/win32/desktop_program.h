@@ -24,6 +24,9 @@ class DesktopProgram {
   bool run();
 
  private:
+  void setOwner(HWND window);
+
+  BrowserSystem& browsers_;
   Win32Screen screen_;
   ShellView view_;
   Program program_;

@@ -20,6 +20,18 @@ int CALLBACK compareRows(LPARAM first, LPARAM second, LPARAM compare) {
 
 }  // namespace
 
+// While it lives, rows are selected and go by the program's doing, not by the user's.
+class ListControl::OwnChange {
+ public:
+  explicit OwnChange(ListControl& list) : list_(list) { ++list_.ownChanges_; }
+  ~OwnChange() { --list_.ownChanges_; }
+  OwnChange(const OwnChange&) = delete;
+  OwnChange& operator=(const OwnChange&) = delete;
+
+ private:
+  ListControl& list_;
+};
+
 ListControl::ListControl(HWND list, HIMAGELIST icons, MainWindowLogic& logic, const DragImage& dragImage)
     : list_(list), logic_(logic), dragImage_(dragImage) {
   constexpr DWORD kStyle = LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP;
@@ -68,11 +80,13 @@ void ListControl::prepareShownRows() {
 }
 
 void ListControl::remove(int row) {
+  const OwnChange own(*this);
   prepared_.erase(data(row));
   send(LVM_DELETEITEM, place(row));
 }
 
 void ListControl::removeAll() {
+  const OwnChange own(*this);
   prepared_.clear();
   send(LVM_DELETEALLITEMS, 0);
 }
@@ -92,6 +106,7 @@ bool ListControl::isSelected(int row) const {
 
 void ListControl::setSelected(int row, bool on) {
   if (row < 0) return;
+  const OwnChange own(*this);
   const DragImage::Hidden hidden(dragImage_);
   LVITEMA item{};
   item.stateMask = LVIS_SELECTED;
@@ -138,12 +153,14 @@ void ListControl::fill(LVITEMA& item) {
   if ((item.mask & LVIF_IMAGE) != 0) item.iImage = logic_.rowIcon(data);
 }
 
-void ListControl::notified(NMHDR& header) {
+bool ListControl::notified(NMHDR& header) {
   const auto& change = reinterpret_cast<const NMLISTVIEW&>(header);
   switch (header.code) {
     case LVN_GETDISPINFOA:
       fill(reinterpret_cast<NMLVDISPINFOA&>(header).item);
       break;
+    case LVN_ITEMCHANGING:
+      return isRefused(change);
     case LVN_ITEMCHANGED:
       if ((change.uChanged & LVIF_STATE) != 0) rowChanged(change);
       break;
@@ -168,6 +185,12 @@ void ListControl::notified(NMHDR& header) {
     default:
       break;
   }
+  return false;
+}
+
+// Whether a row would be selected by the user while he can change nothing.
+bool ListControl::isRefused(const NMLISTVIEW& change) const {
+  return ownChanges_ == 0 && (change.uChanged & LVIF_STATE) != 0 && !logic_.isFree();
 }
 
 void ListControl::rowChanged(const NMLISTVIEW& change) {

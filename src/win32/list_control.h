@@ -22,8 +22,8 @@ class ListControl : public ListWindow {
   ListControl& operator=(const ListControl&) = delete;
 
   [[nodiscard]] HWND window() const { return list_; }
-  // A notification of the list view.
-  void notified(NMHDR& header);
+  // A notification of the list view. True when what it tells of must not be.
+  bool notified(NMHDR& header);
   // The picture of a row, and where the mouse holds it; null when it can't be made.
   HIMAGELIST dragPicture(int row, Point mouse, POINT& grabbed) const;
 
@@ -42,8 +42,11 @@ class ListControl : public ListWindow {
   [[nodiscard]] int rowAt(Point point) const override;
 
  private:
+  class OwnChange;
+
   LRESULT send(UINT message, WPARAM wParam, const void* data = nullptr) const;
   void fill(LVITEMA& item);
+  [[nodiscard]] bool isRefused(const NMLISTVIEW& change) const;
   void rowChanged(const NMLISTVIEW& change);
   void tellKeyChanges() const;
   void prepareShownRows();
@@ -54,6 +57,7 @@ class ListControl : public ListWindow {
   const DragImage& dragImage_;
   int columns_ = 0;
   int holds_ = 0;
+  int ownChanges_ = 0;
   std::unordered_set<ItemData> prepared_;  // rows whose cells are asked for
   bool inKey_ = false;                     // the list view is handling a key
   std::vector<int> keyChanges_;            // rows that changed by it

@@ -210,14 +210,17 @@ void TreeControl::scroll(Edge towards) {
   ::UpdateWindow(tree_);
 }
 
-void TreeControl::notified(NMHDR& header) {
+bool TreeControl::notified(NMHDR& header) {
   const auto& change = reinterpret_cast<const NMTREEVIEWA&>(header);
   switch (header.code) {
+    case TVN_SELCHANGINGA:
+      return isRefused();
     case TVN_SELCHANGEDA:
       logic_.treeSelectionChanged(change.itemNew.hItem == nullptr ? kNoTreeItem
                                                                   : static_cast<TreeItem>(change.itemNew.lParam));
       break;
     case TVN_ITEMEXPANDINGA:
+      if (isRefused()) return true;
       if (ownChanges_ == 0) logic_.treeItemExpanding(static_cast<TreeItem>(change.itemNew.lParam));
       break;
     case TVN_DELETEITEMA:
@@ -229,7 +232,11 @@ void TreeControl::notified(NMHDR& header) {
     default:
       break;
   }
+  return false;
 }
+
+// Whether a change is the user's, and comes while he can change nothing.
+bool TreeControl::isRefused() const { return ownChanges_ == 0 && !logic_.isFree(); }
 
 HIMAGELIST TreeControl::dragPicture(TreeItem item, Point mouse, POINT& grabbed) const {
   std::array<char, 260> label{};

@@ -21,8 +21,8 @@ class TreeControl : public TreeWindow {
   TreeControl& operator=(const TreeControl&) = delete;
 
   [[nodiscard]] HWND window() const { return tree_; }
-  // A notification of the tree view.
-  void notified(NMHDR& header);
+  // A notification of the tree view. True when what it tells of must not be.
+  bool notified(NMHDR& header);
   // The picture of an item, and where the mouse holds it; null when it can't be drawn.
   HIMAGELIST dragPicture(TreeItem item, Point mouse, POINT& grabbed) const;
 
@@ -55,6 +55,7 @@ class TreeControl : public TreeWindow {
   [[nodiscard]] TreeItem itemOf(HTREEITEM handle) const;
   [[nodiscard]] HTREEITEM placeBehind(TreeItem item) const;
   void change(TreeItem item, TVITEMA& changed);
+  [[nodiscard]] bool isRefused() const;
   bool keyPressed(UINT message, WPARAM wParam);
   static LRESULT CALLBACK keys(HWND tree, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id, DWORD_PTR self);
 

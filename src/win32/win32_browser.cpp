@@ -5,6 +5,8 @@
 
 #include <array>
 
+#include "win32/others_disabled.h"
+
 namespace varlo {
 namespace {
 
@@ -35,7 +37,9 @@ class DdeConversation : public Conversation {
   DdeConversation(const DdeConversation&) = delete;
   DdeConversation& operator=(const DdeConversation&) = delete;
 
+  // Messages are run while the answer is waited for; the program stands still all the same.
   void request(const std::string& item, int milliseconds) override {
+    const OthersDisabled windows(nullptr);
     const DdeText name(instance_, item);
     const HDDEDATA answer = ::DdeClientTransaction(nullptr, 0, conversation_, name.get(), CF_TEXT, XTYP_REQUEST,
                                                    static_cast<DWORD>(milliseconds), nullptr);
@@ -65,7 +69,7 @@ std::unique_ptr<Conversation> Win32Browser::connect(const std::string& service, 
 bool Win32Browser::start(const std::string& program, const std::string& argument) {
   const char* opened = program.empty() ? argument.c_str() : program.c_str();
   const char* given = program.empty() ? nullptr : argument.c_str();
-  const HINSTANCE result = ::ShellExecuteA(nullptr, "Open", opened, given, nullptr, SW_RESTORE);
+  const HINSTANCE result = ::ShellExecuteA(owner_, "Open", opened, given, nullptr, SW_RESTORE);
   return reinterpret_cast<INT_PTR>(result) >= 32;
 }
 

@@ -10,6 +10,7 @@
 #include <array>
 #include <cstring>
 
+#include "win32/others_disabled.h"
 #include "win32/win32_screen.h"
 
 namespace varlo {
@@ -24,6 +25,7 @@ std::optional<std::string> Win32Screen::chooseFile(const FileChooserRequest& req
   OPENFILENAMEA chooser{};
   chooser.lStructSize = sizeof chooser;
   chooser.hwndOwner = boxOwner();
+  const OthersDisabled others(chooser.hwndOwner);
   chooser.lpstrFilter = filter.c_str();
   chooser.lpstrFile = path.data();
   chooser.nMaxFile = static_cast<DWORD>(path.size());
@@ -41,6 +43,7 @@ std::optional<std::string> Win32Screen::chooseFolder(std::string_view title) {
   std::array<char, MAX_PATH> path{};
   BROWSEINFOA chooser{};
   chooser.hwndOwner = boxOwner();
+  const OthersDisabled others(chooser.hwndOwner);
   chooser.lpszTitle = shownTitle.c_str();
   chooser.ulFlags = BIF_RETURNONLYFSDIRS;
   const PIDLIST_ABSOLUTE chosen = ::SHBrowseForFolderA(&chooser);
@@ -58,6 +61,7 @@ std::optional<std::uint32_t> Win32Screen::chooseColour(std::uint32_t start, Cust
   CHOOSECOLORA chooser{};
   chooser.lStructSize = sizeof chooser;
   chooser.hwndOwner = boxOwner();
+  const OthersDisabled others(chooser.hwndOwner);
   chooser.rgbResult = start;
   chooser.lpCustColors = colours.data();
   chooser.Flags = CC_RGBINIT | CC_FULLOPEN | CC_ANYCOLOR;

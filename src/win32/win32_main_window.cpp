@@ -180,27 +180,43 @@ void Win32MainWindow::command(int id, int code) {
   }
 }
 
+INT_PTR Win32MainWindow::answer(bool result) const {
+  ::SetWindowLongPtrA(window_, DWLP_MSGRESULT, result ? 1 : 0);
+  return TRUE;
+}
+
 INT_PTR Win32MainWindow::notify(NMHDR& header) {
-  if (header.hwndFrom == tree_.window()) {
-    if (header.code == NM_RCLICK) {
-      logic_.treeRightClicked(cursor());
-      // The list of a right click that is not consumed would open a second time.
-      ::SetWindowLongPtrA(window_, DWLP_MSGRESULT, 1);
-      return TRUE;
-    }
-    tree_.notified(header);
-  } else if (header.hwndFrom == list_.window()) {
-    if (header.code == NM_RCLICK) logic_.listRightClicked(cursor());
-    list_.notified(header);
-  } else if (header.code == TTN_GETDISPINFOA) {
-    giveToolTip(reinterpret_cast<NMTTDISPINFOA&>(header));
-  } else if (header.code == TCN_SELCHANGE) {
-    logic_.tabSelected(static_cast<int>(::SendMessageA(header.hwndFrom, TCM_GETCURSEL, 0, 0)));
-  } else if (header.code == HDN_ENDDRAG) {
-    // Moving a column may leave remains of the moved heading in the window.
-    ::PostMessageA(window_, kRepaint, 0, 0);
+  if (header.hwndFrom == tree_.window()) return treeNotified(header);
+  if (header.hwndFrom == list_.window()) return listNotified(header);
+  switch (header.code) {
+    case TTN_GETDISPINFOA:
+      giveToolTip(reinterpret_cast<NMTTDISPINFOA&>(header));
+      break;
+    case TCN_SELCHANGING:
+      return answer(!logic_.isFree());
+    case TCN_SELCHANGE:
+      logic_.tabSelected(static_cast<int>(::SendMessageA(header.hwndFrom, TCM_GETCURSEL, 0, 0)));
+      break;
+    case HDN_ENDDRAG:
+      // Moving a column may leave remains of the moved heading in the window.
+      ::PostMessageA(window_, kRepaint, 0, 0);
+      break;
+    default:
+      break;
   }
   return FALSE;
+}
+
+INT_PTR Win32MainWindow::treeNotified(NMHDR& header) {
+  if (header.code != NM_RCLICK) return tree_.notified(header) ? answer(true) : FALSE;
+  logic_.treeRightClicked(cursor());
+  // The list of a right click that is not consumed would open a second time.
+  return answer(true);
+}
+
+INT_PTR Win32MainWindow::listNotified(NMHDR& header) {
+  if (header.code == NM_RCLICK) logic_.listRightClicked(cursor());
+  return list_.notified(header) ? answer(true) : FALSE;
 }
 
 void Win32MainWindow::giveToolTip(NMTTDISPINFOA& info) {

@@ -66,7 +66,10 @@ class Win32MainWindow : public MainWindow {
   void loadIcon() const;
   bool filterKey(MSG& message) const;
   void command(int id, int code);
+  [[nodiscard]] INT_PTR answer(bool result) const;
   INT_PTR notify(NMHDR& header);
+  INT_PTR treeNotified(NMHDR& header);
+  INT_PTR listNotified(NMHDR& header);
   void giveToolTip(NMTTDISPINFOA& info);
   void menuOpens(HMENU menu);
   bool contextMenu(HWND window, LPARAM place);

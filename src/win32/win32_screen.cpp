@@ -1,8 +1,11 @@
 #include "win32/win32_screen.h"
 
 #include <string>
+#include <utility>
 
 #include "win32/dialog_host.h"
+#include "win32/message_box.h"
+#include "win32/others_disabled.h"
 #include "win32/task_dialog.h"
 
 namespace varlo {
@@ -57,15 +60,17 @@ HWND Win32Screen::boxOwner() const {
 }
 
 Answer Win32Screen::messageBox(const MessageBoxRequest& request) {
-  return answerOf(::MessageBoxA(boxOwner(), std::string(request.text).c_str(), std::string(request.title).c_str(),
-                                buttonsOf(request.buttons) | iconOf(request.icon)));
+  const HWND owner = boxOwner();
+  const OthersDisabled others(owner);
+  return answerOf(ShowMessageBox(owner, std::string(request.text).c_str(), std::string(request.title).c_str(),
+                                 buttonsOf(request.buttons) | iconOf(request.icon)));
 }
 
 int Win32Screen::runTask(std::string_view title, std::string_view text, const std::function<int()>& task) {
   TaskDialog* outer = task_;
   TaskDialog dialog(title, text, task);
   task_ = &dialog;
-  RunModalDialog(boxOwner(), dialog);
+  runDialog(dialog);
   task_ = outer;
   return dialog.hasRun() ? dialog.result() : task();
 }
@@ -78,7 +83,20 @@ void Win32Screen::setWaitCursor(bool on) {
   ::SetCursor(::LoadCursorA(nullptr, reinterpret_cast<LPCSTR>(on ? IDC_WAIT : IDC_ARROW)));
 }
 
-int Win32Screen::runDialog(DialogLogic& logic) { return RunModalDialog(boxOwner(), logic); }
+// The messages of mouse and keys that wait in the queue.
+void Win32Screen::dropWaitingInput() {
+  MSG message;
+  for (const auto& [first, last] : {std::pair<UINT, UINT>{WM_KEYFIRST, WM_KEYLAST}, {WM_MOUSEFIRST, WM_MOUSELAST}}) {
+    while (::PeekMessageA(&message, nullptr, first, last, PM_REMOVE) != FALSE) {
+    }
+  }
+}
+
+int Win32Screen::runDialog(DialogLogic& logic) {
+  const HWND owner = boxOwner();
+  const OthersDisabled others(owner);
+  return RunModalDialog(owner, logic);
+}
 
 // A modeless dialog belongs to the main window, whatever is active: it may outlive the rest.
 Dialog* Win32Screen::openDialog(std::shared_ptr<DialogLogic> logic) {

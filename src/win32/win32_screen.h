@@ -21,6 +21,7 @@ class Win32Screen : public Screen {
   int runTask(std::string_view title, std::string_view text, const std::function<int()>& task) override;
   void showTaskCount(int count) override;
   void setWaitCursor(bool on) override;
+  void dropWaitingInput() override;
   std::optional<std::string> chooseFile(const FileChooserRequest& request) override;
   std::optional<std::string> chooseFolder(std::string_view title) override;
   std::optional<std::uint32_t> chooseColour(std::uint32_t start, CustomColours& custom) override;

@@ -91,11 +91,14 @@ DesktopProgram::DesktopProgram(const fs::path& installation) : installation_(ins
 
 DesktopProgram::~DesktopProgram() {
   if (runs()) {
-    // Whatever is still open is left without an answer.
-    post(Command::Quit);
+    // Whatever is still open is left with No, or with Cancel.
     WaitFor([&] {
       const HWND box = ::GetLastActivePopup(window_);
-      if (box != nullptr && box != window_) ::PostMessageA(box, WM_COMMAND, IDNO, 0);
+      if (box == nullptr || box == window_) {
+        post(Command::Quit);
+      } else {
+        for (const int button : {IDNO, IDCANCEL}) ::PostMessageA(box, WM_COMMAND, static_cast<WPARAM>(button), 0);
+      }
       return !runs();
     });
   }

@@ -92,12 +92,12 @@ void openFaq(Shell& shell) { openOnSite(shell, "/faq/varlo.faq"); }
 void openManual(Shell& shell) { openOnSite(shell, "/varlo/manual.htm"); }
 
 // Work waits for nothing else to be at work. What changes nothing in the store need not.
-enum class Kind { Work, Harmless };
+enum class Effect { Work, Harmless };
 
 struct CommandRow {
   Command command = Command::None;
   void (*run)(Shell&) = nullptr;
-  Kind kind = Kind::Work;
+  Effect effect = Effect::Work;
 };
 
 constexpr CommandRow kCommands[] = {
@@ -120,17 +120,17 @@ constexpr CommandRow kCommands[] = {
     {Command::NewList, makeNode<NodeKind::List>},
     {Command::SelectAll, selectAllAtFocus},
 
-    {Command::ViewOrders, viewOrders, Kind::Harmless},
-    {Command::ToggleToolbar, toggleView<kViewToolbar, Command::ToggleToolbar>, Kind::Harmless},
-    {Command::ToggleButtons, toggleView<kViewButtons, Command::ToggleButtons>, Kind::Harmless},
+    {Command::ViewOrders, viewOrders, Effect::Harmless},
+    {Command::ToggleToolbar, toggleView<kViewToolbar, Command::ToggleToolbar>, Effect::Harmless},
+    {Command::ToggleButtons, toggleView<kViewButtons, Command::ToggleButtons>, Effect::Harmless},
 
     {Command::Preferences, runDialog<PreferencesDialog>},
     {Command::PreviewPage, previewCurrent},
     {Command::BuildStore, openBuildWindow},
     {Command::ImportFreight, importFreight},
 
-    {Command::Faq, openFaq, Kind::Harmless},
-    {Command::Manual, openManual, Kind::Harmless},
+    {Command::Faq, openFaq, Effect::Harmless},
+    {Command::Manual, openManual, Effect::Harmless},
 
     {Command::TreeNewCategory, newCategoryAtMouse},
     {Command::TreeCopy, copyNode},
@@ -147,7 +147,7 @@ constexpr CommandRow kCommands[] = {
     {Command::ListSelectAll, selectAllRows},
 
     {Command::RefillTree, refillTree},
-    {Command::ResizeMainWindow, resizeMainWindow, Kind::Harmless},
+    {Command::ResizeMainWindow, resizeMainWindow, Effect::Harmless},
 };
 
 }  // namespace
@@ -155,7 +155,7 @@ constexpr CommandRow kCommands[] = {
 void dispatchCommand(Shell& shell, Command command) {
   const auto* row = std::ranges::find(kCommands, command, &CommandRow::command);
   if (row == std::end(kCommands)) return;
-  if (row->kind == Kind::Harmless) return row->run(shell);
+  if (row->effect == Effect::Harmless) return row->run(shell);
   const Work work(shell.program);
   if (work) row->run(shell);
 }

@@ -186,11 +186,11 @@ TEST_F(StoreBuild, WhatWasTypedDuringTheBuildIsForgotten) {
 
 TEST_F(StoreBuild, BeginsNothingWhileSomethingIsAtWork) {
   window.open();
-  const std::vector<std::string> before = window.listBoxRows(kLog);
+  const std::vector<std::string> before = window.rows(kLog);
   const Work work(t.program);
   window.press(kBuild);
   window.press(kBrowse);
-  EXPECT_EQ(window.listBoxRows(kLog), before);
+  EXPECT_EQ(window.rows(kLog), before);
   EXPECT_TRUE(t.screen.folderTitles.empty());
 }
 

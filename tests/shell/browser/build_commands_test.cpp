@@ -280,8 +280,8 @@ class BuildWithBoxes : public BuildStoreCommand {
     t.runPosted();
     run();
   }
-  void build() { windows[0]->press(control::store_build::kBuild); }
-  std::string logged(std::size_t row) { return windows[0]->listBoxRows(control::store_build::kLog).at(row); }
+  void build() { windows[0]->press(store_build::kBuild); }
+  std::string logged(std::size_t row) { return windows[0]->rows(store_build::kLog).at(row); }
 };
 
 TEST_F(BuildWithBoxes, NoCommandTakesTheStoreFromUnderTheWalk) {
@@ -310,19 +310,18 @@ TEST_F(BuildWithBoxes, NoSecondBuildBegins) {
 }
 
 TEST_F(BuildWithBoxes, TheWindowCanBeClosedAndNoOtherTakesItsPlace) {
-  const void* dialog = t.shell.buildDialog.get();
   t.screen.whileWaiting = [&] {
     windows[0]->close();
     run();
   };
   build();
-  EXPECT_EQ(t.shell.buildDialog.get(), dialog);
   EXPECT_EQ(windows.size(), 1U);
+  EXPECT_EQ(t.shell.generator.log.buildWindow, nullptr);
 }
 
 TEST_F(BuildWithBoxes, TheChooserOfTheDirectoryHasTheProgramToItself) {
   t.screen.whileWaiting = [&] { t.logic.command(Command::TreeDelete); };
-  windows[0]->press(control::store_build::kBrowse);
+  windows[0]->press(store_build::kBrowse);
   EXPECT_EQ(TreeText(t.project()), "Home(Toys(Ball),Bats,Rows)");
   EXPECT_EQ(t.screen.folderTitles.size(), 1U);
 }

@@ -98,8 +98,8 @@ TEST_F(States, OfButtonsAndFieldsStayWhileSomethingIsAtWork) {
   openShop();
   openPage();
   const Work work(t.program);
-  EXPECT_TRUE(t.window.frame().isEnabled(control::main::kProduct));
-  EXPECT_TRUE(page.window.isEnabled(control::inventory::kTitle));
+  EXPECT_TRUE(t.window.frame().isEnabled(main_window::kProduct));
+  EXPECT_TRUE(page.window.isEnabled(inventory::kTitle));
 }
 
 TEST_F(States, AShopEnablesMenuButtonsAndTools) {

@@ -297,7 +297,7 @@ TEST_F(Inventory, ItsButtonsBeginNothingWhileSomethingIsAtWork) {
 
 TEST_F(Inventory, AChosenTemplateWaitsForNobody) {
   t.ball->templateName.assign("product.htm");
-  t.page->addComboRow(kTemplate, "big.htm");
+  t.page->addRow(kTemplate, "big.htm");
   t.page->pickComboRow(kTemplate, 0);
   const Work work(t.program);
   t.page->deliverPosts();

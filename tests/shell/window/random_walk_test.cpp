@@ -428,7 +428,7 @@ class RandomWalk {
   }
 
   void meddleWithThePage() {
-    namespace ids = control::inventory;
+    namespace ids = inventory;
     if (form() == nullptr) return;
     const ControlId field = at(below(kFields));
     typedBehind_ = typedBehind_ || form()->isEnabled(field);
