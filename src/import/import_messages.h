@@ -5,6 +5,8 @@
 
 namespace varlo::message {
 
+inline constexpr std::string_view kOpenDataFile = "Open Data File";
+inline constexpr std::string_view kDataFilter = "File (*.*)$*.*$$";
 inline constexpr std::string_view kImportComplete = "Import Complete";
 inline constexpr std::string_view kImported = "%s record(s) have been imported.";
 inline constexpr std::string_view kUpdateComplete = "Update Complete";

@@ -67,6 +67,15 @@ enum class Command : int {
   ListEnable = 40605,
   ListSelectAll = 40606,
 
+  // The popup menus of the import window: of a heading, one for each field by its number, and of the rows
+  ColumnFirstField = 40801,
+  ColumnLastField = 40826,
+  ColumnClear = 40827,
+  RowsImport = 40831,
+  RowsUpdate = 40832,
+  RowsDelete = 40833,
+  RowsSelectAll = 40834,
+
   // Posted by the program to itself
   RefillTree = 40701,
   ResizeMainWindow = 40702,

@@ -17,4 +17,8 @@ struct MenuEntry {
 
 using PopupMenu = std::vector<MenuEntry>;
 
+// A line between entries: one without a label.
+[[nodiscard]] inline MenuEntry MenuSeparator() { return {}; }
+[[nodiscard]] inline bool IsSeparator(const MenuEntry& entry) { return entry.label.empty(); }
+
 }  // namespace varlo

@@ -18,7 +18,9 @@ OwnedMenu makeMenu(const PopupMenu& entries) {
   OwnedMenu menu(::CreatePopupMenu());
   for (const MenuEntry& entry : entries) {
     const UINT state = entry.enabled ? MF_ENABLED : MF_GRAYED;
-    if (entry.entries.empty()) {
+    if (IsSeparator(entry)) {
+      ::AppendMenuA(menu.get(), MF_SEPARATOR, 0, nullptr);
+    } else if (entry.entries.empty()) {
       ::AppendMenuA(menu.get(), MF_STRING | state, static_cast<UINT_PTR>(entry.command), entry.label.c_str());
     } else {
       // A submenu ends with its menu.

@@ -2,6 +2,7 @@
 
 #include "core/program/program.h"
 #include "generator/build/store_build_dialog.h"
+#include "import/import_window.h"
 
 namespace varlo {
 

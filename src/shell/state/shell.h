@@ -10,6 +10,7 @@
 #include "core/store/user_variable.h"
 #include "core/text/text.h"
 #include "generator/state/generator.h"
+#include "import/import_state.h"
 #include "platform/browser_system.h"
 #include "platform/main_window.h"
 
@@ -25,6 +26,8 @@ inline constexpr int kTabs = 7;
 
 // The number by which the help pane knows the open tab.
 inline constexpr int kHelpOfTab = 0;
+// And the choice of a file to import.
+inline constexpr int kHelpOfImport = 2;
 
 struct Shell {
   Shell(Program& theProgram, BrowserSystem& theBrowsers);
@@ -36,6 +39,7 @@ struct Shell {
   BrowserSystem& browsers;
   Generator generator;
   ModelessWindow<StoreBuildDialog> buildWindow;
+  ImportState import;
 
   MainWindow* mainWindow = nullptr;  // while it is open
   Dialog* tabPage = nullptr;         // the page of the open tab; null while it is swapped

@@ -10,6 +10,7 @@
 #include "core/text/paths.h"
 #include "core/text/text_search.h"
 #include "core/tree/store_tree.h"
+#include "import/keyword_manager.h"
 #include "shell/browser/browser.h"
 #include "shell/state/shell.h"
 #include "shell/tabs/form.h"
@@ -261,6 +262,9 @@ void InventoryPage::pressed(Dialog& page, ControlId button) {
       break;
     case kChooseImageLink:
       chooseImage(page, kImageLink, message::kOpenImageLinkTitle);
+      break;
+    case kKeywordManager:
+      ShowKeywordManager(shell_.program);
       break;
     case kShowImage:
       showImage(shell_, &StoreNode::image);

@@ -7,6 +7,7 @@
 #include "core/program/messages.h"
 #include "core/program/program.h"
 #include "core/program/work.h"
+#include "import/import_window.h"
 #include "persist/dialogs/preferences_dialog.h"
 #include "persist/dialogs/restore_dialog.h"
 #include "persist/dialogs/save_as_dialog.h"
@@ -44,6 +45,11 @@ void runDialog(Shell& shell) {
   Logic logic(shell.program);
   shell.program.screen.runDialog(logic);
   refreshCommandStates(shell);
+}
+
+void import(Shell& shell) {
+  shell.program.view.showHelp(kHelpOfImport);
+  OpenImport(shell.program, shell.import);
 }
 
 // The tree was filled anew, so its selection is gone and the form may show what was read over.
@@ -105,6 +111,7 @@ constexpr CommandRow kCommands[] = {
     {Command::Save, save},
     {Command::SaveAs, runDialog<SaveAsDialog>},
     {Command::RestoreBackup, runDialog<RestoreDialog>},
+    {Command::Import, import},
     {Command::Merge, merge},
     {Command::Upgrade, launchUpgrade},
     {Command::Quit, quit},
