@@ -21,6 +21,20 @@ void unlink(StoreProject& project, const CardEntry& card) {
 
 }  // namespace
 
+std::vector<CardEntry*> OfferedCards(const AppConfig& config) {
+  std::vector<CardEntry*> offered;
+  for (CardEntry* card = config.cardCatalogue; card != nullptr; card = card->next) {
+    if (card->selected == 0) offered.push_back(card);
+  }
+  return offered;
+}
+
+std::vector<CardEntry*> AcceptedCards(const StoreProject& project) {
+  std::vector<CardEntry*> accepted;
+  for (CardEntry* card = project.acceptedCards; card != nullptr; card = card->next) accepted.push_back(card);
+  return accepted;
+}
+
 int CardAccept(Program& program, CardEntry* catalogueCard) {
   if (catalogueCard == nullptr || catalogueCard->selected != 0) return 0;
   append(program.project, catalogueCard->name, 0);
@@ -42,6 +56,7 @@ int CardRemove(Program& program) {
   project.currentCard = card->next != nullptr ? card->next : card->prev;
   unlink(project, *card);
   delete card;
+  program.view.loadCardList();  // an open Order Form tab must not show what is gone
   SetDirty(program, 1);
   return 1;
 }
