@@ -76,6 +76,21 @@ enum class Command : int {
   RowsDelete = 40833,
   RowsSelectAll = 40834,
 
+  // The popup menus of the region lists
+  SelectAllOfferedRegions = 40611,
+  SelectAllStoreRegions = 40612,
+
+  // The popup menu of the Freight tab
+  RegionAddRemove = 40621,
+  RegionCopy = 40622,
+  RegionPaste = 40623,
+  RegionClear = 40624,
+  RegionImport = 40625,
+  RegionEnable = 40626,
+  RegionDisable = 40627,
+  RegionDelete = 40628,
+  RegionSelectAll = 40629,
+
   // Posted by the program to itself
   RefillTree = 40701,
   ResizeMainWindow = 40702,
