@@ -30,6 +30,8 @@ inline constexpr std::string_view kSavePrompt = "The current project has changed
 inline constexpr std::string_view kDeleteCategory =
     "You are about to delete a Category and all nodes below it. Do you wish to proceed?";
 
+inline constexpr std::string_view kChangeTax = "Would you like to change the current tax settings?";
+
 // The dialogs around long tasks.
 inline constexpr std::string_view kLoadingProject = "Loading store project. Please wait........";
 inline constexpr std::string_view kSavingProject = "Saving store project. Please wait........";
