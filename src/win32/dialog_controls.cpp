@@ -81,6 +81,8 @@ DWORD styleOf(const PlacedControl& control) {
   DWORD style = WS_CHILD | classOf(control.kind).style;
   if (!Has(control.options, Option::Hidden)) style |= WS_VISIBLE;
   if (control.kind == Kind::List && !Has(control.options, Option::ManyRows)) style |= LVS_SINGLESEL;
+  const bool isTick = control.kind == Kind::Check || control.kind == Kind::Radio;
+  if (isTick && control.cell != nullptr && control.cell->lines > 1) style |= BS_MULTILINE | BS_TOP;
   for (const OptionStyle& each : kOptionStyles) {
     if (each.kind == control.kind && Has(control.options, each.option)) style |= each.style;
   }

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <string>
 
+#include "layout/preview_picture.h"
 #include "win32/screen_scale.h"
 
 namespace varlo {
@@ -94,13 +95,14 @@ void DialogPaint::drawPicture(const DRAWITEMSTRUCT& item) const {
   const auto found = pictures_.find(static_cast<ControlId>(item.CtlID));
   BITMAP size{};
   if (found == pictures_.end() || ::GetObjectA(found->second.get(), sizeof size, &size) == 0) return;
-  const int width = item.rcItem.right - item.rcItem.left;
-  const int height = item.rcItem.bottom - item.rcItem.top;
-  const int left = item.rcItem.left + (width - static_cast<int>(size.bmWidth)) / 2;
-  const int top = item.rcItem.top + (height - static_cast<int>(size.bmHeight)) / 2;
+  const RECT& frame = item.rcItem;
+  const Rectangle place =
+      CentredIn({static_cast<int>(frame.left), static_cast<int>(frame.top),
+                 static_cast<int>(frame.right - frame.left), static_cast<int>(frame.bottom - frame.top)},
+                {static_cast<int>(size.bmWidth), static_cast<int>(size.bmHeight)});
   const BitmapCanvas picture(item.hDC, found->second.get());
   ::IntersectClipRect(item.hDC, item.rcItem.left, item.rcItem.top, item.rcItem.right, item.rcItem.bottom);
-  ::BitBlt(item.hDC, left, top, size.bmWidth, size.bmHeight, picture.get(), 0, 0, SRCCOPY);
+  ::BitBlt(item.hDC, place.left, place.top, size.bmWidth, size.bmHeight, picture.get(), 0, 0, SRCCOPY);
 }
 
 HBRUSH DialogPaint::coloursOf(ControlId control, HDC canvas) const {

@@ -88,7 +88,7 @@ int fieldHeight(const Cell& cell) {
       return kTextLine * cell.lines;
     case Kind::Check:
     case Kind::Radio:
-      return kTickLine;
+      return kTickLine + kNextLine * (cell.lines - 1);
     case Kind::Rule:
       return 2;
     case Kind::Space:
