@@ -36,6 +36,7 @@ class RecordingView : public View {
   void showHelp(int id) override { calls.push_back("showHelp " + std::to_string(id)); }
   void openHelpPane(int dialogId) override { calls.push_back("openHelpPane " + std::to_string(dialogId)); }
   void openInBrowser(std::string_view address) override { calls.push_back("openInBrowser " + std::string(address)); }
+  void previewScheme() override { calls.emplace_back("previewScheme"); }
   void storeForm() override { calls.emplace_back("storeForm"); }
   void setWindowTitle(std::string_view title) override { calls.push_back("setWindowTitle " + std::string(title)); }
 

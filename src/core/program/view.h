@@ -53,6 +53,8 @@ struct View {
   virtual void openHelpPane(int /*dialogId*/) {}
   // Shows an address or a file in the browser.
   virtual void openInBrowser(std::string_view /*address*/) {}
+  // Shows the open store in the browser as it would be with the current scheme.
+  virtual void previewScheme() {}
   // Stores what the open form holds, as each edit in it does.
   virtual void storeForm() {}
   virtual void setWindowTitle(std::string_view /*title*/) {}
