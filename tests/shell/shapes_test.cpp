@@ -136,14 +136,19 @@ TEST(Shapes, PagesLeaveTheLettersOfTheMenuAlone) {
   }
 }
 
-// The help pane knows each window and each control by its number.
+// The help pane knows each window and each control by its number. What two windows have in common is one cell, or
+// stands at the foot of the pages of a wizard.
 TEST(Shapes, NoTwoWindowsShareANumber) {
-  std::map<ControlId, const DialogShape*> owners;
+  std::set<ControlId> windows;
+  std::map<ControlId, const Cell*> owners;
+  for (const DialogShape* shape : kAllShapes) EXPECT_TRUE(windows.insert(shape->id).second) << shape->id;
   for (const DialogShape* shape : kAllShapes) {
-    EXPECT_TRUE(owners.emplace(shape->id, shape).second) << shape->id;
+    std::set<ControlId> own;
     for (const PlacedControl& control : LayOut(*shape, {600, 600}, 100)) {
       if (control.id == 0 || control.id == kOk || control.id == kCancel || control.id == kHelp) continue;
-      EXPECT_TRUE(owners.emplace(control.id, shape).second) << said(*shape, control);
+      EXPECT_TRUE(own.insert(control.id).second) << said(*shape, control);
+      EXPECT_EQ(windows.count(control.id), 0U) << said(*shape, control);
+      EXPECT_EQ(owners.emplace(control.id, control.cell).first->second, control.cell) << said(*shape, control);
     }
   }
 }

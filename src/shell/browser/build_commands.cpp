@@ -1,6 +1,7 @@
 #include "shell/browser/build_commands.h"
 
 #include <string>
+#include <utility>
 
 #include "core/program/program.h"
 #include "core/tree/store_tree.h"
@@ -37,6 +38,16 @@ void previewCurrent(Shell& shell) {
   project.currentNode = node;
   openInBrowser(shell, page);
   WaitCursorOff(program);
+}
+
+// Only while it runs, the store has the scheme, and pages come from the templates of its set.
+void previewScheme(Shell& shell) {
+  StoreProject& project = shell.program.project;
+  SchemeRecord* applied = std::exchange(project.projectScheme, shell.program.config.currentScheme);
+  shell.generator.useSetTemplates = true;
+  previewCurrent(shell);
+  shell.generator.useSetTemplates = false;
+  project.projectScheme = applied;
 }
 
 void openBuildWindow(Shell& shell) {

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "commerce/wizard/wizard_state.h"
 #include "core/forms/modeless_window.h"
 #include "core/store/user_variable.h"
 #include "core/text/text.h"
@@ -38,6 +39,7 @@ struct Shell {
   Program& program;
   BrowserSystem& browsers;
   Generator generator;
+  WizardState wizard;  // of the store wizard, from run to run
   ModelessWindow<StoreBuildDialog> buildWindow;
   ImportState import;
 

@@ -105,6 +105,7 @@ CommandFacts gatherFacts(const Shell& shell) {
                      .focus = focusPlace(shell),
                      .nodeCopied = project.clipboardNode != nullptr,
                      .regionCurrent = project.currentRegion != nullptr,
+                     .regionCopied = project.freightClipboard != nullptr,
                      .variableCurrent = project.currentVariable != nullptr};
   gatherNode(project, facts);
   gatherRichEdit(shell, facts);

@@ -4,6 +4,7 @@
 
 #include "core/program/program.h"
 #include "shell/state/state_display.h"
+#include "shell/tabs/freight_page.h"
 #include "shell/tabs/inventory_page.h"
 
 namespace varlo {
@@ -32,7 +33,7 @@ const TabTraits& traitsOf(Tab tab) {
   static constexpr std::array<TabTraits, kTabs> kTraits{{
       {"Inventory", make<InventoryPage>},
       {"Template", make<EmptyPage<2100>>},
-      {"Freight", make<EmptyPage<2200>>},
+      {"Freight", make<FreightPage>},
       {"Order Form", make<EmptyPage<2300>>},
       {"Confirmation", make<EmptyPage<2400>>},
       {"Layout", make<EmptyPage<2500>>},

@@ -4,6 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "commerce/cards/accepted_cards_dialog.h"
+#include "commerce/wizard/wizard_dialog.h"
 #include "core/program/messages.h"
 #include "core/program/program.h"
 #include "core/program/work.h"
@@ -61,9 +63,27 @@ void merge(Shell& shell) {
   loadForm(shell);
 }
 
+// The page is shown anew, whether or not anything was read.
 void importFreight(Shell& shell) {
   const std::optional<std::string> path = ChooseProjectFile(shell.program, message::kImportTitle);
   if (path) FreightImport(shell.program, path->c_str());
+  shell.program.view.loadFreightList();
+}
+
+template <WizardMode mode>
+void runWizard(Shell& shell) {
+  RunWizard(shell.program, shell.wizard, mode);
+  refreshCommandStates(shell);
+}
+
+void showCreditCards(Shell& shell) {
+  ShowAcceptedCards(shell.program);
+  refreshCommandStates(shell);
+}
+
+void showTaxOptions(Shell& shell) {
+  ShowTaxOptions(shell.program, shell.wizard);
+  refreshCommandStates(shell);
 }
 
 void disable(Shell& shell) { shell.fromList ? disableRows(shell) : disableNode(shell); }
@@ -107,6 +127,7 @@ struct CommandRow {
 };
 
 constexpr CommandRow kCommands[] = {
+    {Command::NewStore, runWizard<WizardMode::NewStore>},
     {Command::OpenStore, openStore},
     {Command::Save, save},
     {Command::SaveAs, runDialog<SaveAsDialog>},
@@ -134,6 +155,9 @@ constexpr CommandRow kCommands[] = {
     {Command::Preferences, runDialog<PreferencesDialog>},
     {Command::PreviewPage, previewCurrent},
     {Command::BuildStore, openBuildWindow},
+    {Command::CreditCards, showCreditCards},
+    {Command::FreightRegions, runWizard<WizardMode::Regions>},
+    {Command::TaxOptions, showTaxOptions},
     {Command::ImportFreight, importFreight},
 
     {Command::Faq, openFaq, Effect::Harmless},

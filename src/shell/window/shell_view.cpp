@@ -1,6 +1,7 @@
 #include "shell/window/shell_view.h"
 
 #include "shell/browser/browser.h"
+#include "shell/browser/build_commands.h"
 #include "shell/state/shell.h"
 #include "shell/state/state_display.h"
 #include "shell/tabs/form.h"
@@ -55,12 +56,23 @@ void ShellView::selectInTree(StoreNode& node) {
 void ShellView::nodeRenamed(StoreNode& node) {
   if (shell_ != nullptr) refreshLabel(*shell_, node);
 }
+void ShellView::refillList(PageList list) {
+  if (shell_ == nullptr || shell_->tabPage == nullptr || shell_->pageLogic == nullptr) return;
+  shell_->pageLogic->refillList(*shell_->tabPage, list);
+}
+void ShellView::loadFreightList() { refillList(PageList::Freight); }
+void ShellView::loadVariableList() { refillList(PageList::Variables); }
+void ShellView::loadCardList() { refillList(PageList::Cards); }
+void ShellView::loadSchemeLists() { refillList(PageList::Schemes); }
 // What can be done is looked at whenever help is asked for, so on almost every move of the focus.
 void ShellView::showHelp(int /*id*/) {
   if (shell_ != nullptr) varlo::refreshCommandStates(*shell_);
 }
 void ShellView::openInBrowser(std::string_view address) {
   if (shell_ != nullptr) varlo::openInBrowser(*shell_, address);
+}
+void ShellView::previewScheme() {
+  if (shell_ != nullptr) varlo::previewScheme(*shell_);
 }
 void ShellView::storeForm() {
   if (shell_ != nullptr) readForm(*shell_);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/program/view.h"
+#include "shell/state/page_logic.h"
 
 namespace varlo {
 
@@ -26,12 +27,19 @@ class ShellView : public View {
   void refreshTreeItem(StoreNode& node) override;
   void selectInTree(StoreNode& node) override;
   void nodeRenamed(StoreNode& node) override;
+  void loadFreightList() override;
+  void loadVariableList() override;
+  void loadCardList() override;
+  void loadSchemeLists() override;
   void showHelp(int id) override;
   void openInBrowser(std::string_view address) override;
+  void previewScheme() override;
   void storeForm() override;
   void setWindowTitle(std::string_view title) override;
 
  private:
+  void refillList(PageList list);
+
   Shell* shell_ = nullptr;
 };
 

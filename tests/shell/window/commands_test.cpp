@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "commerce/cards/card_page.h"
+#include "commerce/tax/tax_options_dialog.h"
+#include "commerce/wizard/wizard_shapes.h"
 #include "core/store/freight_record.h"
 #include "persist/dialogs/preferences_dialog.h"
 #include "persist/dialogs/restore_dialog.h"
@@ -52,8 +55,7 @@ class Commands : public testing::Test {
 TEST_F(Commands, OnesThatAreNotKnownDoNothing) {
   t.attach();
   for (const Command command :
-       {Command::None, Command::NewStore, Command::Import, Command::Find, Command::CreditCards,
-        Command::FreightRegions, Command::TaxOptions, Command::About, Command::Help, static_cast<Command>(12345)}) {
+       {Command::None, Command::Import, Command::Find, Command::About, Command::Help, static_cast<Command>(12345)}) {
     run(command);
   }
   EXPECT_THAT(t.screen.boxes, IsEmpty());
@@ -247,6 +249,27 @@ TEST_F(Commands, MergeOfAProjectThatIsGoneIsToldAndChangesNothing) {
   EXPECT_THAT(t.screen.boxes,
               ElementsAre(ShownBox{std::string("S105: Unable to read project file '") + kOtherPath + "'", "Error"}));
   EXPECT_EQ(t.project().dirty, 0);
+}
+
+TEST_F(Commands, NewStoreRegionsCardsAndTaxOpenTheirWindows) {
+  t.attach();
+  for (const Command command :
+       {Command::NewStore, Command::FreightRegions, Command::CreditCards, Command::TaxOptions}) {
+    run(command);
+  }
+  EXPECT_THAT(t.screen.dialogs,
+              ElementsAre(wizard::kFirstWindow, wizard::kLoneRegions, cards::kWindow, tax_options::kWindow));
+  EXPECT_EQ(t.shell.wizard.page, WizardPage::Cancelled);
+  EXPECT_THAT(t.screen.boxes, IsEmpty());
+}
+
+TEST_F(Commands, NewStoreOffersToSaveTheTitledOneThatItReplaces) {
+  openShop();
+  t.project().storeTitle.assign("Old");
+  SetDirty(t.program, 1);
+  run(Command::NewStore);
+  ASSERT_EQ(t.screen.boxes.size(), 1U);
+  EXPECT_EQ(t.screen.boxes[0].title, "Varlo PRO - Save Store Confirmation");
 }
 
 TEST_F(Commands, ImportFreightTablesTakesThemFromTheOtherProject) {
