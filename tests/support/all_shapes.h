@@ -18,15 +18,11 @@
 
 namespace varlo::test {
 
-inline constexpr std::array kAllShapes{
-    &PreferencesDialog::kShape, &SaveAsDialog::kShape,  &RestoreDialog::kShape, &StoreBuildDialog::kShape,
-    &FirstBuildDialog::kShape,  &InventoryPage::kShape, &ImportWindow::kShape,  &KeywordManager::kShape,
-};
 inline const std::vector<const DialogShape*> kAllShapes = [] {
   std::vector<const DialogShape*> all{
-      &PreferencesDialog::kShape, &SaveAsDialog::kShape,        &RestoreDialog::kShape,
-      &StoreBuildDialog::kShape,  &FirstBuildDialog::kShape,    &InventoryPage::kShape,
-      &FreightPage::kShape,       &AcceptedCardsDialog::kShape, &TaxOptionsDialog::kShape,
+      &PreferencesDialog::kShape, &SaveAsDialog::kShape,  &RestoreDialog::kShape,  &StoreBuildDialog::kShape,
+      &FirstBuildDialog::kShape,  &InventoryPage::kShape, &FreightPage::kShape,    &AcceptedCardsDialog::kShape,
+      &TaxOptionsDialog::kShape,  &ImportWindow::kShape,  &KeywordManager::kShape,
   };
   for (const DialogShape& page : WizardShapes()) all.push_back(&page);
   return all;
