@@ -636,10 +636,10 @@ class RandomWalk {
   int meddlings_ = 0;  // done behind a box
   bool meddling_ = false;
   bool typedBehind_ = false;  // into the form, so that its node changes when the box is gone
-  int wholeTrees_ = 0;       // that were compared node by node
-  bool apart_ = false;       // an item was expanded that is not selected
-  bool movedByKey_ = false;  // since the tree was filled
-  bool rootLeft_ = false;    // the root was moved down by key
+  int wholeTrees_ = 0;        // that were compared node by node
+  bool apart_ = false;        // an item was expanded that is not selected
+  bool movedByKey_ = false;   // since the tree was filled
+  bool rootLeft_ = false;     // the root was moved down by key
 };
 
 // Another walk than the usual one, to look for trouble.
