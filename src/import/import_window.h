@@ -15,7 +15,7 @@ struct Program;
 
 namespace import_window {
 enum : ControlId {
-  kWindow = 3000,
+  kWindow = 1600,
   kDelimiter,
   kQuote,
   kQuoteEscape,

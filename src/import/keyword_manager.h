@@ -10,7 +10,7 @@ struct Program;
 
 namespace keyword_manager {
 enum : ControlId {
-  kWindow = 3100,
+  kWindow = 1700,
   kTab,
   kClear,
   kAdditional,
