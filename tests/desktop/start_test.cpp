@@ -19,6 +19,16 @@ class Start : public DesktopTest {
   void writeSettings(const std::string& lines) const {
     std::ofstream(installation_.folder() / "config.ini", std::ios::binary) << lines;
   }
+  // Where there is nothing to open the program begins with the wizard.
+  void leaveWizard() {
+    const HWND wizard = WaitForBox("Store Wizard");
+    ASSERT_NE(wizard, nullptr);
+    program().settle();
+    TakePicture(wizard, "wizard_welcome");
+    ::PostMessageA(wizard, WM_COMMAND, IDCANCEL, 0);
+    EXPECT_TRUE(WaitFor([] { return !BoxIsOpen("Store Wizard"); }));
+    program().settle();
+  }
   // What a start without a project shows: an empty tree, and a form that can't be filled in.
   void expectNoProject() {
     EXPECT_EQ(TextOf(window()), "Varlo PRO");
@@ -47,6 +57,7 @@ class Start : public DesktopTest {
 TEST_F(Start, WithoutSettingsShowsNoProjectAndWritesThemAtItsEnd) {
   fs::remove(installation_.folder() / "config.ini");
   start();
+  leaveWizard();
   expectNoProject();
   EXPECT_FALSE(BoxIsOpen("Upgrade Error")) << "The shipped server counts.";
   TakePicture(window(), "first_start");
@@ -57,6 +68,7 @@ TEST_F(Start, WithoutSettingsShowsNoProjectAndWritesThemAtItsEnd) {
 TEST_F(Start, WithAServerAndNoProjectCanOpenOne) {
   writeSettings("varlo=orders.example\r\n");
   start();
+  leaveWizard();
   expectNoProject();
   program().post(Command::OpenStore);
   const HWND chooser = WaitForBox("Open Project");
@@ -85,6 +97,7 @@ TEST_F(Start, TellsThatTheProjectOfTheSettingsIsGone) {
   person.join();
   EXPECT_EQ(told, "S103: Unable to read project file '" + gone + "'");
   EXPECT_FALSE(BoxIsOpen("Error")) << "One message is enough.";
+  leaveWizard();
   expectNoProject();
 }
 
