@@ -20,7 +20,23 @@ if [[ $address == [A-Za-z]:[\\/]* ]]; then address=$(linux_path "$address"); fi
 
 # Wine's surroundings are not those of the user's desktop.
 unset LC_ALL
+status=127
+tried=
 for opener in xdg-open sensible-browser x-www-browser; do
-  if command -v "$opener" >/dev/null; then exec "$opener" "$address" </dev/null >/dev/null 2>&1; fi
+  if ! command -v "$opener" >/dev/null; then
+    tried+=", $opener is not there"
+    continue
+  fi
+  started=$SECONDS
+  "$opener" "$address" </dev/null >/dev/null 2>&1 && exit 0
+  status=$?
+  # One that ran for a while was a browser, which somebody has closed.
+  if [ $((SECONDS - started)) -ge 10 ]; then exit 0; fi
+  tried+=", $opener ended with $status"
 done
-exit 127
+
+# Whoever started this sees it, and who started the program from its desktop finds it beside the program.
+line="No browser could show '$address': ${tried#, }."
+printf 'open_browser.sh: %s\n' "$line" >&2
+{ printf '%s %s\n' "$(date '+%F %T')" "$line" >>"$(dirname -- "$0")/open_browser.log"; } 2>/dev/null
+exit "$status"

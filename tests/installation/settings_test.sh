@@ -83,8 +83,47 @@ ln -s "$work/bin/xdg-open" none/
 PATH=$work/none "$open_browser" 'Z:\gone\page.htm' || fail "a page that is not there ended with status $?"
 [ "$(cat shown)" = '1|/gone/page.htm|' ] || fail "without Wine, '$(cat shown)' was shown"
 rm none/xdg-open
-PATH=$work/none "$open_browser" 'Z:\gone\page.htm'
+
+# From here on as it is installed, where it leaves a line beside the program when nothing works.
+mkdir installed
+cp "$open_browser" installed/
+open_browser=$work/installed/open_browser.sh
+for tool in dirname date; do ln -s "$(command -v "$tool")" none/; done
+log=installed/open_browser.log
+
+PATH=$work/none "$open_browser" 'Z:\gone\page.htm' 2>err
 [ $? -eq 127 ] || fail "without a browser the status is not 127"
+wanted="No browser could show '/gone/page.htm': xdg-open is not there, sensible-browser is not there, x-www-browser is not there."
+[ "$(cat err)" = "open_browser.sh: $wanted" ] || fail "without a browser '$(cat err)' was told"
+[ "$(cut -d' ' -f3- "$log")" = "$wanted" ] || fail "without a browser '$(cat "$log")' was noted"
+
+# opener NAME STATUS: a stand-in that writes down its name and what it is asked to show, and ends with this status.
+opener() {
+  printf '#!/bin/sh\nprintf "%%s|" "%s" "$@" >>"%s/shown"\nexit %s\n' "$1" "$work" "$2" >"none/$1"
+  chmod +x "none/$1"
+}
+# tries WANTED STATUS: what is shown by whom in the end, and the status.
+tries() {
+  rm -f shown err "$log"
+  PATH=$work/none "$open_browser" http://varlo.example/ 2>err
+  [ $? -eq "$2" ] || fail "the status is not $2"
+  [ "$(cat shown)" = "$1" ] || fail "'$(cat shown)' was shown, not '$1'"
+}
+site='http://varlo.example/'
+opener xdg-open 3
+opener sensible-browser 0
+opener x-www-browser 0
+tries "xdg-open|$site|sensible-browser|$site|" 0
+if [ -s err ] || [ -e "$log" ]; then fail "a second opener that worked was complained of"; fi
+opener sensible-browser 1
+tries "xdg-open|$site|sensible-browser|$site|x-www-browser|$site|" 0
+opener x-www-browser 4
+tries "xdg-open|$site|sensible-browser|$site|x-www-browser|$site|" 4
+wanted="No browser could show '$site': xdg-open ended with 3, sensible-browser ended with 1, x-www-browser ended with 4."
+[ "$(cat err)" = "open_browser.sh: $wanted" ] || fail "'$(cat err)' was told"
+rm none/sensible-browser none/x-www-browser
+tries "xdg-open|$site|" 3
+[ "$(wc -l <"$log")" -eq 1 ] || fail "a failure is not one line of the log"
 
 [ "$failures" -eq 0 ] && echo "the first settings are right"
 exit $((failures > 0))
